@@ -1,0 +1,33 @@
+#!/bin/sh
+# Installs every Debian package that Evida needs to build, run and test.
+# Idempotent: packages already present are skipped, and the package lists are
+# refreshed only when something is missing. Works as root or through sudo.
+set -eu
+
+PACKAGES="build-essential cmake pkg-config git
+libwxgtk3.2-dev libwxsqlite3-3.2-dev libcurl4-openssl-dev libqrcodegencpp-dev libcairo2-dev
+libgtest-dev libgmock-dev libbenchmark-dev
+xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3"
+
+missing=""
+for p in $PACKAGES; do
+    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+        missing="$missing $p"
+    fi
+done
+
+if [ -z "$missing" ]; then
+    echo "setup: all packages present"
+    exit 0
+fi
+
+if [ "$(id -u)" -eq 0 ]; then
+    SUDO=""
+else
+    SUDO="sudo"
+fi
+
+echo "setup: installing$missing"
+$SUDO env DEBIAN_FRONTEND=noninteractive apt-get update -q
+# shellcheck disable=SC2086
+$SUDO env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing

@@ -1,0 +1,94 @@
+// evida-cli: the company database from the command line, for users who script and for
+// checking files. It opens files exactly as the program does, without a display.
+//
+//   evida-cli create FILE   a new company database with the placeholder company
+//   evida-cli check FILE    open, check and repair; print the repair report if any
+//   evida-cli info FILE     version and the row count of every table
+#include <wx/app.h>
+#include <wx/event.h>
+#include <wx/filename.h>
+#include <wx/init.h>
+#include <wx/log.h>
+
+#include <cstdio>
+
+#include "companysetup.h"
+#include "dbmodel.h"
+#include "schema.h"
+
+namespace {
+
+const char* const OPEN_FAILED = "Nepodařilo se otevřít databázi";
+
+void print(const wxString& text) { std::printf("%s\n", static_cast<const char*>(text.utf8_str())); }
+void printErr(const wxString& text) { std::fprintf(stderr, "%s\n", static_cast<const char*>(text.utf8_str())); }
+
+// Receives the model's messages (the repair report) and prints them.
+class MessagePrinter : public wxEvtHandler {
+   public:
+    MessagePrinter() { Bind(MODEL_MSG, [](wxCommandEvent& e) { print(e.GetString()); }); }
+};
+
+int usage() {
+    printErr(wxString::FromUTF8("Použití: evida-cli create|check|info SOUBOR"));
+    return 2;
+}
+
+int create(DbModel& model, const wxString& path) {
+    if (wxFileName::FileExists(path)) {
+        printErr(wxString::FromUTF8("Soubor už existuje: ") + path);
+        return 1;
+    }
+    if (!companysetup::createPlaceholderCompany(model, path)) {
+        printErr(wxString::FromUTF8(OPEN_FAILED));
+        return 1;
+    }
+    const Firma& f = model.firma();
+    print(wxString::Format(wxString::FromUTF8("Vytvořena databáze %s: %s, IČ: %s, období %d"), path, f.nazev(), f.ic(),
+                           model.currentRok()));
+    return 0;
+}
+
+bool open(DbModel& model, const wxString& path) {
+    if (!wxFileName::FileExists(path) || !model.openDatabase(path)) {
+        printErr(wxString::FromUTF8(OPEN_FAILED));
+        return false;
+    }
+    model.fillData();
+    return true;
+}
+
+int info(DbModel& model) {
+    wxString verze;
+    try {
+        verze = model.db().ExecuteQuery("SELECT verze FROM version").GetAsString(0);
+    } catch (const wxSQLite3Exception&) {
+    }
+    print("verze: " + verze);
+    print(DbModel::getVersion());
+    int count = 0;
+    const schema::TableDef* tables = schema::checkOrder(&count);
+    for (int i = 0; i < count; ++i) print(wxString::Format("%-14s %d", tables[i].name, model.tableRows(tables[i].name)));
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    wxInitializer init(argc, argv);
+    if (!init.IsOk()) return 1;
+    wxTheApp->SetAppName("evida");
+    wxLog::SetActiveTarget(new wxLogStderr());
+    wxLog::DisableTimestamp();
+    if (argc != 3) return usage();
+    const wxString command = wxString::FromUTF8(argv[1]);
+    const wxString path = wxFileName(wxString::FromUTF8(argv[2])).GetAbsolutePath();
+
+    MessagePrinter printer;
+    DbModel model(&printer);
+    model.initModel();
+    if (command == "create") return create(model, path);
+    if (command == "check") return open(model, path) ? 0 : 1;
+    if (command == "info") return open(model, path) ? info(model) : 1;
+    return usage();
+}

@@ -1,0 +1,26 @@
+// The shape every table should have, read from the program's own CREATE TABLE texts by
+// running them in a private in-memory database. The open-time checks compare a company
+// file against it, so the expected columns and foreign keys are never written twice.
+#pragma once
+
+#include <wx/arrstr.h>
+#include <wx/string.h>
+
+#include <vector>
+
+namespace referenceschema {
+
+struct Column {
+    wxString name;
+    wxString type;  // "INTEGER", "TEXT", "REAL"
+    bool notNull;
+    bool primaryKey;
+};
+
+// Columns of a table in column order; empty for an unknown table.
+const std::vector<Column>& columns(const wxString& table);
+
+// Foreign-key signature of a table as DbModel::tableKeys gives it for a sound file.
+const wxArrayString& keys(const wxString& table);
+
+} // namespace referenceschema

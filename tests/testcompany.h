@@ -1,0 +1,44 @@
+// Test fixture: a fresh temporary HOME (so the data directory and evida.ini are private to
+// the test), a DbModel whose events are recorded, and helpers to build databases from SQL.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <wx/event.h>
+#include <wx/string.h>
+
+#include <memory>
+#include <vector>
+
+#include "dbmodel.h"
+
+// Records what the model sends.
+class EventRecorder : public wxEvtHandler {
+   public:
+    EventRecorder();
+    std::vector<int> updates;
+    std::vector<wxString> messages;
+};
+
+class TestCompany : public ::testing::Test {
+   protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // A new company database as a first start makes it; returns its path.
+    wxString createCompany(const wxString& name = "firma.db");
+    // Writes a database file from SQL text (statements separated by ";").
+    wxString writeDb(const wxString& name, const wxString& sql);
+    // Runs SQL on a file without the model (the file must not be open in the model).
+    void execOnFile(const wxString& path, const wxString& sql);
+
+    int scalar(const wxString& sql);
+    wxString text(const wxString& sql);
+
+    wxString m_home;
+    EventRecorder m_events;
+    std::unique_ptr<DbModel> m_model;
+};
+
+// The SQL that made a company file of an older program version, built from today's schema
+// by leaving out the tables and columns that version did not have yet.
+wxString oldSchemaSql(const wxString& version);
