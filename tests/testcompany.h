@@ -11,6 +11,9 @@
 
 #include "dbmodel.h"
 
+// Czech text in the tests is UTF-8, whatever the process locale.
+inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
+
 // Records what the model sends.
 class EventRecorder : public wxEvtHandler {
    public:

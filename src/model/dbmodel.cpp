@@ -42,10 +42,13 @@ bool DbModel::openFile(const wxString& path) {
     try {
         m_db.Open(path, wxEmptyString, WXSQLITE_OPEN_READWRITE | WXSQLITE_OPEN_CREATE);
         if (m_db.IsReadOnly()) {
-            wxLogWarning("Databázi %s nelze zapisovat", path);
+            wxLogWarning(wxString::FromUTF8("Databázi %s nelze zapisovat"), path);
             m_db.Close();
             return false;
         }
+        // A company open in another program stays locked for as long as it is open there, so
+        // waiting for the lock is pointless: fail at once instead of after wxSQLite3's minute.
+        m_db.SetBusyTimeout(200);
         // The exclusive lock taken by this empty transaction stays until the file is closed,
         // so a second program cannot use the company while it is open here.
         m_db.ExecuteUpdate("PRAGMA locking_mode = EXCLUSIVE;");

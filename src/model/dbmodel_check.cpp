@@ -45,6 +45,24 @@ wxString danglingValue(const wxString& table, const referenceschema::Column& col
     return fillValue(table, col);
 }
 
+// Columns that form the primary key of a table in the open file.
+wxArrayString primaryKey(wxSQLite3Database& db, const wxString& table) {
+    wxArrayString pk;
+    wxSQLite3ResultSet rs = db.ExecuteQuery(wxString::Format("PRAGMA table_info(%s)", table));
+    while (rs.NextRow()) {
+        if (rs.GetInt("pk") != 0) pk.Add(rs.GetAsString("name"));
+    }
+    return pk;
+}
+
+wxArrayString expectedPrimaryKey(const wxString& table) {
+    wxArrayString pk;
+    for (const auto& col : referenceschema::columns(table)) {
+        if (col.primaryKey) pk.Add(col.name);
+    }
+    return pk;
+}
+
 const referenceschema::Column* findColumn(const wxString& table, const wxString& name) {
     for (const auto& col : referenceschema::columns(table)) {
         if (col.name == name) return &col;
@@ -138,7 +156,8 @@ bool DbModel::checkUserTable(const schema::TableDef& table) {
                 needsRebuild = true;
                 continue;
             }
-            tryExecuteUpdate(wxString::Format("ALTER TABLE %s ADD COLUMN %s %s", name, col.name, col.type));
+            tryExecuteUpdate(wxString::Format("ALTER TABLE %s ADD COLUMN %s", name,
+                                              referenceschema::addColumnDefinition(name, col.name)));
             if (name == "denik" && col.name == "kurz") {
                 // Kept as it has always been: the statement names the rate table, fails, and the
                 // added column stays empty.
@@ -153,7 +172,12 @@ bool DbModel::checkUserTable(const schema::TableDef& table) {
         sqllog::error("check " + name, e);
     }
 
-    if (needsRebuild || tableKeys(name) != referenceschema::keys(name)) {
+    // Keys are compared as sets: a column added later lists its reference in another place.
+    wxArrayString actualKeys = tableKeys(name), expectedKeys = referenceschema::keys(name);
+    actualKeys.Sort();
+    expectedKeys.Sort();
+    // A table copied without its key (for example by CREATE TABLE ... AS) cannot be referenced.
+    if (needsRebuild || actualKeys != expectedKeys || primaryKey(m_db, name) != expectedPrimaryKey(name)) {
         intact = false;
         rebuildTable(table);
     }

@@ -6,6 +6,7 @@
 
 #include "dbmodel.h"
 #include "lxutils.h"
+#include "referenceschema.h"
 #include "schema.h"
 #include "sqllog.h"
 
@@ -26,8 +27,10 @@ void recreate(DbModel& m, const char* table, const char* const* list) {
     m.createDatabaseTable(list, false);
 }
 
-void addColumn(DbModel& m, const char* table, const char* column, const char* type, const char* fill = nullptr) {
-    m.tryExecuteUpdate(wxString::Format("ALTER TABLE %s ADD COLUMN %s %s", table, column, type));
+// Adds a column as today's table defines it (type and reference), then fills it.
+void addColumn(DbModel& m, const char* table, const char* column, const char* fill = nullptr) {
+    m.tryExecuteUpdate(wxString::Format("ALTER TABLE %s ADD COLUMN %s", table,
+                                        referenceschema::addColumnDefinition(table, column)));
     if (fill) m.tryExecuteUpdate(wxString::Format("UPDATE %s SET %s=%s", table, column, fill));
 }
 
@@ -39,12 +42,12 @@ void upgradeTo130(DbModel& m) {
     createIfMissing(m, "ulozene", sqlite_tb_ulozene);
     recreate(m, "dphsazba", sqlite_tb_dphsazba);
     for (const char* table : {"faktura", "zavpoh"}) {
-        addColumn(m, table, "dppd", "TEXT", "duzp");
-        addColumn(m, table, "dphdruhid", "INTEGER");
-        addColumn(m, table, "kurz", "REAL");
-        addColumn(m, table, "pausal", "INTEGER", "0");
+        addColumn(m, table, "dppd", "duzp");
+        addColumn(m, table, "dphdruhid");
+        addColumn(m, table, "kurz");
+        addColumn(m, table, "pausal", "0");
     }
-    for (const char* table : {"firma", "denik"}) addColumn(m, table, "pausal", "INTEGER", "0");
+    for (const char* table : {"firma", "denik"}) addColumn(m, table, "pausal", "0");
 }
 
 void upgradeTo1400(DbModel& m) {
@@ -71,17 +74,17 @@ void upgradeTo1400(DbModel& m) {
         }
     }
     createIfMissing(m, "zasoba", sqlite_tb_zasoba);
-    addColumn(m, "fapolozka", "zasobaid", "INTEGER");
+    addColumn(m, "fapolozka", "zasobaid");
     createIfMissing(m, "inventura", sqlite_tb_inventura);
     createIfMissing(m, "ivpolozka", sqlite_tb_ivpolozka);
     createIfMissing(m, "pohybzasob", sqlite_tb_pohybzasob);
-    addColumn(m, "kurz", "jednotny", "INTEGER", "0");
+    addColumn(m, "kurz", "jednotny", "0");
     if (!m.hasTableColumn("mena", "od") || !m.hasTableColumn("mena", "do")) recreate(m, "mena", sqlite_tb_mena);
     recreate(m, "dphdruh", sqlite_tb_dphdruh);
 }
 
 void upgradeTo1401(DbModel& m) {
-    addColumn(m, "kontakt", "jmeno", "TEXT", "nazev");
+    addColumn(m, "kontakt", "jmeno", "nazev");
     createIfMissing(m, "ridic", sqlite_tb_ridic);
     createIfMissing(m, "phm", sqlite_tb_phm);
     createIfMissing(m, "cenaphm", sqlite_tb_cenaphm);
@@ -91,12 +94,12 @@ void upgradeTo1401(DbModel& m) {
     createIfMissing(m, "jizda", sqlite_tb_jizda);
 }
 
-void upgradeTo1404(DbModel& m) { addColumn(m, "fapolozka", "zaokrouhleni", "INTEGER", "0"); }
+void upgradeTo1404(DbModel& m) { addColumn(m, "fapolozka", "zaokrouhleni", "0"); }
 
 void upgradeTo1407(DbModel& m) {
     createIfMissing(m, "bankovniustav", sqlite_tb_bankovniustav);
-    addColumn(m, "banka", "iban", "TEXT");
-    addColumn(m, "banka", "bic", "TEXT");
+    addColumn(m, "banka", "iban");
+    addColumn(m, "banka", "bic");
     struct Account {
         int id;
         wxString cislo, kod;

@@ -117,7 +117,7 @@ bool lxSettings::firmaExists(const wxString& key) const {
 
 wxArrayString lxSettings::firmy() const {
     wxArrayString list;
-    for (const auto& entry : m_dbmap) list.Add(wxString::Format("%s, IČ: %s", keyName(entry.second), keyIc(entry.second)));
+    for (const auto& entry : m_dbmap) list.Add(wxString::Format(wxString::FromUTF8("%s, IČ: %s"), keyName(entry.second), keyIc(entry.second)));
     return list;
 }
 

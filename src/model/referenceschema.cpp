@@ -29,7 +29,8 @@ const std::map<wxString, Shape>& shapes() {
                 wxSQLite3ResultSet cols = db.ExecuteQuery(wxString::Format("PRAGMA table_info(%s)", tables[i].name));
                 while (cols.NextRow()) {
                     shape.columns.push_back({cols.GetAsString("name"), cols.GetAsString("type").Upper(),
-                                             cols.GetInt("notnull") != 0, cols.GetInt("pk") != 0});
+                                             cols.GetInt("notnull") != 0, cols.GetInt("pk") != 0,
+                                             cols.IsNull("dflt_value") ? wxString() : cols.GetAsString("dflt_value")});
                 }
                 cols.Finalize();
                 wxSQLite3ResultSet fks = db.ExecuteQuery(wxString::Format("PRAGMA foreign_key_list(%s)", tables[i].name));
@@ -59,6 +60,23 @@ const wxArrayString& keys(const wxString& table) {
     static const wxArrayString none;
     auto it = shapes().find(table);
     return it == shapes().end() ? none : it->second.keys;
+}
+
+wxString addColumnDefinition(const wxString& table, const wxString& column) {
+    wxString definition = column;
+    for (const Column& col : columns(table)) {
+        if (col.name != column) continue;
+        definition += " " + col.type;
+        if (!col.defaultValue.empty()) definition += " DEFAULT " + col.defaultValue;
+    }
+    for (const wxString& key : keys(table)) {
+        const wxArrayString parts = wxSplit(key, '|');
+        if (parts.size() == 5 && parts[0] == column) {
+            definition += wxString::Format(" REFERENCES %s(%s) ON UPDATE %s", parts[1], parts[2], parts[3]);
+            if (parts[4] != "NO ACTION") definition += " ON DELETE " + parts[4];
+        }
+    }
+    return definition;
 }
 
 } // namespace referenceschema

@@ -15,10 +15,16 @@ struct Column {
     wxString type;  // "INTEGER", "TEXT", "REAL"
     bool notNull;
     bool primaryKey;
+    wxString defaultValue;  // as written in the CREATE text, empty when none
 };
 
 // Columns of a table in column order; empty for an unknown table.
 const std::vector<Column>& columns(const wxString& table);
+
+// The definition with which a missing column is added to an existing table: its type, a
+// constant default and its reference. NOT NULL is left out, as SQLite cannot add such a
+// column to a table with rows; the caller fills the column instead.
+wxString addColumnDefinition(const wxString& table, const wxString& column);
 
 // Foreign-key signature of a table as DbModel::tableKeys gives it for a sound file.
 const wxArrayString& keys(const wxString& table);
