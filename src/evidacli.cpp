@@ -4,6 +4,9 @@
 //   evida-cli create FILE   a new company database with the placeholder company
 //   evida-cli check FILE    open, check and repair; print the repair report if any
 //   evida-cli info FILE     version and the row count of every table
+//   evida-cli rates FILE DATE
+//                           download the national bank's rates of DATE (YYYY-MM-DD) and
+//                           store them in the company, as the rate button of the dialogs does
 #include <wx/app.h>
 #include <wx/event.h>
 #include <wx/filename.h>
@@ -14,6 +17,7 @@
 
 #include "companysetup.h"
 #include "dbmodel.h"
+#include "download.h"
 #include "schema.h"
 
 namespace {
@@ -30,7 +34,8 @@ class MessagePrinter : public wxEvtHandler {
 };
 
 int usage() {
-    printErr(wxString::FromUTF8("Použití: evida-cli create|check|info SOUBOR"));
+    printErr(wxString::FromUTF8("Použití: evida-cli create|check|info SOUBOR\n"
+                                "         evida-cli rates SOUBOR DATUM   (DATUM jako RRRR-MM-DD)"));
     return 2;
 }
 
@@ -72,6 +77,33 @@ int info(DbModel& model) {
     return 0;
 }
 
+// A calendar date written exactly as YYYY-MM-DD; invalid otherwise.
+wxDateTime parseIsoDate(const wxString& text) {
+    wxDateTime date;
+    wxString::const_iterator end;
+    if (text.length() != 10 || !date.ParseFormat(text, "%Y-%m-%d", &end) || end != text.end()) return wxDateTime();
+    // The parser accepts some days a month does not have; a date must format back to itself.
+    return date.FormatISODate() == text ? date : wxDateTime();
+}
+
+int rates(DbModel& model, const wxString& path, const wxString& dateText) {
+    const wxDateTime date = parseIsoDate(dateText);
+    if (!date.IsValid()) {
+        printErr(wxString::FromUTF8("Neplatné datum: ") + dateText + wxString::FromUTF8(" (zadejte RRRR-MM-DD)"));
+        return 2;
+    }
+    if (!open(model, path)) return 1;
+    // Tell why a download failed (the program's dialogs keep these details quiet).
+    wxLog::SetVerbose(true);
+    int stored = 0;
+    if (!lxutils::kurzyDownload(date, &stored)) {
+        printErr(wxString::FromUTF8("Kurzy ke dni ") + dateText + wxString::FromUTF8(" se nepodařilo stáhnout"));
+        return 1;
+    }
+    print(wxString::Format(wxString::FromUTF8("Uloženo kurzů ke dni %s: %d"), dateText, stored));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -80,8 +112,9 @@ int main(int argc, char** argv) {
     wxTheApp->SetAppName("evida");
     wxLog::SetActiveTarget(new wxLogStderr());
     wxLog::DisableTimestamp();
-    if (argc != 3) return usage();
+    if (argc < 3) return usage();
     const wxString command = wxString::FromUTF8(argv[1]);
+    if (argc != (command == "rates" ? 4 : 3)) return usage();
     const wxString path = wxFileName(wxString::FromUTF8(argv[2])).GetAbsolutePath();
 
     MessagePrinter printer;
@@ -90,5 +123,6 @@ int main(int argc, char** argv) {
     if (command == "create") return create(model, path);
     if (command == "check") return open(model, path) ? 0 : 1;
     if (command == "info") return open(model, path) ? info(model) : 1;
+    if (command == "rates") return rates(model, path, wxString::FromUTF8(argv[3]));
     return usage();
 }

@@ -108,8 +108,8 @@ TEST_F(Lifecycle, TableHelpers) {
     EXPECT_FALSE(m_model->hasTableId("rada", "id", "XX"));
     EXPECT_TRUE(m_model->hasTableId("mena", "id", 39));
     EXPECT_FALSE(m_model->hasTableId("mena", "id", 40));
-    EXPECT_EQ(m_model->getLastId("mena"), 39);
-    EXPECT_EQ(m_model->getLastId("denik"), 0);
+    EXPECT_EQ(m_model->getLastId("mena"), 40);
+    EXPECT_EQ(m_model->getLastId("denik"), 1);
     m_model->db().ExecuteUpdate("CREATE TABLE denik_copy AS SELECT * FROM denik");
     EXPECT_TRUE(m_model->hasSameColumns("denik", "denik_copy"));
     EXPECT_FALSE(m_model->hasSameColumns("denik", "banka"));

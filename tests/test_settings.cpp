@@ -6,7 +6,7 @@
 #include "lxutils.h"
 #include "testcompany.h"
 
-class Settings : public TestCompany {
+class SettingsFile : public TestCompany {
    protected:
     void writeIni(const char* content) {
         wxFFile f(lxutils::dataDir() + "/evida.ini", "w");
@@ -18,7 +18,7 @@ class Settings : public TestCompany {
     lxSettings* s() { return lxSettings::instance(); }
 };
 
-TEST_F(Settings, DefaultsWithoutIniFile) {
+TEST_F(SettingsFile, DefaultsWithoutIniFile) {
     s()->load();
     EXPECT_EQ(s()->x(), 50);
     EXPECT_EQ(s()->w(), 888);
@@ -31,7 +31,7 @@ TEST_F(Settings, DefaultsWithoutIniFile) {
     EXPECT_TRUE(s()->dbname().empty());
 }
 
-TEST_F(Settings, DuplicateCompaniesAndForeignStorageModelsAreDropped) {
+TEST_F(SettingsFile, DuplicateCompaniesAndForeignStorageModelsAreDropped) {
     writeIni("[DB]\ndbcount=3\ndbmodel=3\n"
              "dbname0=evida1.db\ndbfirma0=Alfa_1\n"
              "dbname1=evida2.db\ndbfirma1=Alfa_1\n"
@@ -54,7 +54,7 @@ TEST_F(Settings, DuplicateCompaniesAndForeignStorageModelsAreDropped) {
     EXPECT_TRUE(s()->dbnameByFirma("Alfa_1") == "evida1.db");
 }
 
-TEST_F(Settings, CompanyListOperations) {
+TEST_F(SettingsFile, CompanyListOperations) {
     s()->addDbnamePair("evida1.db", "A_1");
     s()->addDbnamePair("evida1.db", "B_2");  // a known file is not added twice
     s()->addDbnamePair("evida2.db", "B_2");
@@ -69,7 +69,7 @@ TEST_F(Settings, CompanyListOperations) {
     EXPECT_TRUE(s()->dbname().empty());
 }
 
-TEST_F(Settings, UniqueDbNameFillsGaps) {
+TEST_F(SettingsFile, UniqueDbNameFillsGaps) {
     EXPECT_EQ(lxutils::getUniqueDbName(), "evida1.db");
     writeDb("evida1.db", "CREATE TABLE t(a)");
     writeDb("evida3.db", "CREATE TABLE t(a)");

@@ -15,6 +15,8 @@
 #include "lxutils.h"
 #include "schema.h"
 
+wxDateTime lxSettingsToday() { return lxSettings::instance()->datum(); }
+
 EventRecorder::EventRecorder() {
     Bind(MODEL_UPDATED, [this](wxCommandEvent& e) { updates.push_back(e.GetInt()); });
     Bind(MODEL_MSG, [this](wxCommandEvent& e) { messages.push_back(e.GetString()); });

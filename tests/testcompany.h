@@ -14,6 +14,9 @@
 // Czech text in the tests is UTF-8, whatever the process locale.
 inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
+// The working date of the application as the model sees it.
+wxDateTime lxSettingsToday();
+
 // Records what the model sends.
 class EventRecorder : public wxEvtHandler {
    public:

@@ -178,84 +178,9 @@ void DbModel::fillFirma() { m_firma = readOneRow<Firma>(m_db, "SELECT * FROM fir
 void DbModel::fillSmtp() { m_smtp = readOneRow<Smtp>(m_db, "SELECT * FROM smtp"); }
 void DbModel::fillPriznani() { m_priznani = readOneRow<Priznani>(m_db, "SELECT * FROM priznani"); }
 
-bool DbModel::setFirma(const Firma& f) {
-    int count = 0;
-    if (!execScalarInt("SELECT count(*) FROM firma", &count)) return false;
-    const bool insert = count == 0;
-    const wxString sql = insert ? "INSERT INTO firma(nazev,ic,dic,registrace,platce,telefon,email,www,logo,razitko,"
-                                  "adresaid,pausal) VALUES(?,?,?,?,?,?,?,?,?,?,?,?)"
-                                : "UPDATE firma SET nazev=?,ic=?,dic=?,registrace=?,platce=?,telefon=?,email=?,www=?,"
-                                  "logo=?,razitko=?,pausal=?";
-    try {
-        wxSQLite3Statement st = m_db.PrepareStatement(sql);
-        int i = 1;
-        for (const wxString* text : {&f.nazev(), &f.ic(), &f.dic(), &f.registrace()}) st.Bind(i++, *text);
-        st.Bind(i++, f.platce() ? 1 : 0);
-        for (const wxString* text : {&f.telefon(), &f.email(), &f.www(), &f.logo(), &f.razitko()}) st.Bind(i++, *text);
-        if (insert) st.Bind(i++, f.adresaid());  // an update never moves the company to another address
-        st.Bind(i++, f.pausal() ? 1 : 0);
-        st.ExecuteUpdate();
-    } catch (const wxSQLite3Exception& e) {
-        sqllog::error(sql, e);
-        return false;
-    }
-    fillFirma();
-    fireUpdated(NAV_ALL);
-    return true;
-}
-
-bool DbModel::addAdresa(const Adresa& a) {
-    const wxString sql = "INSERT INTO adresa(id,ulice,cp,misto,psc,zeme) VALUES(?,?,?,?,?,?)";
-    try {
-        wxSQLite3Statement st = m_db.PrepareStatement(sql);
-        int i = 1;
-        a.visit([&](const char*, const auto& field) { recordio::bindField(st, i++, field); });
-        st.ExecuteUpdate();
-    } catch (const wxSQLite3Exception& e) {
-        sqllog::error(sql, e);
-        return false;
-    }
-    fireUpdated(NAV_NONE);
-    return true;
-}
-
-bool DbModel::addObdobi(const Obdobi& o) {
-    const wxString sql = "INSERT INTO obdobi(rok,current) VALUES(?,?)";
-    try {
-        wxSQLite3Statement st = m_db.PrepareStatement(sql);
-        st.Bind(1, o.rok());
-        st.Bind(2, o.current() ? 1 : 0);
-        st.ExecuteUpdate();
-    } catch (const wxSQLite3Exception& e) {
-        sqllog::error(sql, e);
-        return false;
-    }
-    if (o.current()) m_currentRok = o.rok();
-    fireUpdated(NAV_ALL);
-    return true;
-}
-
-int DbModel::currentRok() {
-    if (m_currentRok < 0) {
-        int rok = -1;
-        if (execScalarInt("SELECT rok FROM obdobi WHERE current=1", &rok)) m_currentRok = rok;
-    }
-    return m_currentRok;
-}
-
-wxArrayString DbModel::getObdobiAsStrings(int after) {
-    wxArrayString years;
-    const wxString sql = wxString::Format("SELECT rok FROM obdobi WHERE rok>%d ORDER BY rok ASC", after);
-    try {
-        wxSQLite3ResultSet rs = m_db.ExecuteQuery(sql);
-        while (rs.NextRow()) years.Add(rs.GetAsString(0));
-    } catch (const wxSQLite3Exception& e) {
-        sqllog::error(sql, e);
-    }
-    return years;
-}
-
 // ---------------------------------------------------------------- notifications
+
+bool DbModel::isForeignStorage() { return lxSettings::instance()->dbmodel() != DBMODEL_SQLITE; }
 
 void DbModel::fireUpdated(int page) {
     if (!m_parent) return;

@@ -11,6 +11,7 @@
 
 #include "navigation.h"
 #include "records.h"
+#include "views.h"
 
 namespace schema {
 struct TableDef;
@@ -64,10 +65,11 @@ class DbModel {
     bool hasTableId(const wxString& table, const wxString& column, int value);
     void clearTable(const wxString& table);
     static wxString getVersion();
+    // The id a new row of the table takes: the largest id + 1, or 1 for an empty table.
     int getLastId(const wxString& table);
     bool hasTable(const wxString& table);
 
-    // --- cached records ---
+    // --- cached records (dbmodel.cpp) ---
     void fillData();
     void fillFirma();
     void fillSmtp();
@@ -75,19 +77,193 @@ class DbModel {
     const Firma& firma() const { return m_firma; }
     const Smtp& smtp() const { return m_smtp; }
     const Priznani& priznani() const { return m_priznani; }
+
+    // --- the company (dbmodel_firma.cpp) ---
+    // Inserts the one company row when there is none, else updates it (never its address).
     bool setFirma(const Firma& firma);
     bool isFirmaPlatce() const { return m_firma.platce(); }
     bool isFirmaPausal() const { return m_firma.pausal(); }
+    // Image files of the company's logo and stamp for prints; empty when not set or missing.
+    wxString firmaLogo() const;
+    wxString firmaRazitko() const;
+    bool setSmtp(const Smtp& smtp);
 
-    // --- records needed to set up a company ---
-    bool addAdresa(const Adresa& adresa);
-    bool addObdobi(const Obdobi& obdobi);
+    // --- records: add/edit/get/has/delete per family (dbmodel_records.cpp) ---
+    // A getter of a missing row returns an invalid record. Every write notifies.
+#define EVIDA_DECLARE_FAMILY(R, Key)  \
+    bool add##R(const R& record);     \
+    bool edit##R(const R& record);    \
+    R get##R(Key key);                \
+    bool has##R(Key key);             \
+    bool delete##R(Key key);
+    EVIDA_DECLARE_FAMILY(Adresa, int)
+    EVIDA_DECLARE_FAMILY(Kontakt, int)
+    EVIDA_DECLARE_FAMILY(Obdobi, int)
+    EVIDA_DECLARE_FAMILY(Pokladna, int)
+    EVIDA_DECLARE_FAMILY(Banka, int)
+    EVIDA_DECLARE_FAMILY(Predkontace, int)
+    EVIDA_DECLARE_FAMILY(Denik, int)
+    EVIDA_DECLARE_FAMILY(Faktura, int)
+    EVIDA_DECLARE_FAMILY(ZavPoh, int)
+    EVIDA_DECLARE_FAMILY(FaPolozka, int)
+    EVIDA_DECLARE_FAMILY(FaUhrada, int)
+    EVIDA_DECLARE_FAMILY(Uhrada, int)
+    EVIDA_DECLARE_FAMILY(Majetek, int)
+    EVIDA_DECLARE_FAMILY(Odpis, int)
+    EVIDA_DECLARE_FAMILY(Settings, int)
+    EVIDA_DECLARE_FAMILY(Sklad, int)
+    EVIDA_DECLARE_FAMILY(Zasoba, int)
+    EVIDA_DECLARE_FAMILY(Pohybzasob, int)
+    EVIDA_DECLARE_FAMILY(Inventura, int)
+    EVIDA_DECLARE_FAMILY(IvPolozka, int)
+    EVIDA_DECLARE_FAMILY(Ridic, int)
+    EVIDA_DECLARE_FAMILY(Vozidlo, int)
+    EVIDA_DECLARE_FAMILY(Jizda, int)
+    EVIDA_DECLARE_FAMILY(Odeslany, int)
+    EVIDA_DECLARE_FAMILY(Ulozene, int)
+    EVIDA_DECLARE_FAMILY(Kurz, int)
+#undef EVIDA_DECLARE_FAMILY
+    // Read-only families: the fixed code lists of the program.
+#define EVIDA_DECLARE_LOOKUP(R, Key) \
+    R get##R(Key key);               \
+    bool has##R(Key key);
+    EVIDA_DECLARE_LOOKUP(DphSazba, int)
+    EVIDA_DECLARE_LOOKUP(DphDruh, int)
+    EVIDA_DECLARE_LOOKUP(DenikSloupec, int)
+    EVIDA_DECLARE_LOOKUP(Mena, int)
+    EVIDA_DECLARE_LOOKUP(Odpiskupina, int)
+    EVIDA_DECLARE_LOOKUP(FaTyp, int)
+    EVIDA_DECLARE_LOOKUP(Phm, int)
+    EVIDA_DECLARE_LOOKUP(DruhVozidla, int)
+    EVIDA_DECLARE_LOOKUP(CenaPhm, int)
+    EVIDA_DECLARE_LOOKUP(NahradaKm, int)
+    EVIDA_DECLARE_LOOKUP(BankovniUstav, int)
+    EVIDA_DECLARE_LOOKUP(Rada, const wxString&)
+#undef EVIDA_DECLARE_LOOKUP
+
+    // --- copies (dbmodel_copy.cpp); each returns the new row's id, or -1 ---
+    // A contact's copy (with a copy of its address) is named "<name> (<n>)", n making it unique.
+    int copyKontakt(int id);
+    // A pre-posting's copy gets the code "<code><n>".
+    int copyPredkontace(int id);
+    // A journal entry's copy: the working date and the next number of its series (not advanced).
+    int copyDenik(int id);
+    // An invoice's or receivable's copy with its items: fresh number, variable symbol and dates.
+    int copyFaktura(int id);
+    int copyZavPoh(int id);
+    int copyMajetek(int id);
+    int copyZasoba(int id);
+    int copyVozidlo(int id);
+    int copyJizda(int id);
+
+    // --- plural getters and lookups by unique text (dbmodel_lists.cpp) ---
+    lxKontaktArray kontakty();
+    lxPokladnaArray pokladny();
+    lxBankaArray banky();
+    lxPredkontaceArray predkontace();
+    lxDenikSloupecArray deniksloupce();
+    lxFaUhradaArray fauhrady();
+    lxFaTypArray fatypy();
+    lxSkladArray sklady();
+    lxZasobaArray zasoby();
+    lxMajetekArray majetky();
+    lxOdpiskupinaArray odpiskupiny();
+    lxRidicArray ridici();
+    lxVozidloArray vozidla();
+    lxPhmArray phm();
+    lxDruhVozidlaArray druhyVozidel();
+    lxOdeslanyArray odeslane();
+    lxUlozeneArray ulozene();
+    lxDphDruhArray dphdruhy();
+    lxDphSazbaArray dphsazby(int rok);
+    int getKontaktIdByNazev(const wxString& nazev);
+    int getPokladnaIdByZkratka(const wxString& zkratka);
+    int getBankaIdByZkratka(const wxString& zkratka);
+    int getPredkontaceIdByZkratka(const wxString& zkratka);
+    int getVozidloIdByRz(const wxString& rz);
+    int getDphDruhIdByZkratka(const wxString& zkratka);
+    // Whether a code-list row is still referenced by documents and so may not be deleted.
+    bool isPokladnaUsed(int id);
+    bool isBankaUsed(int id);
+    bool isPredkontaceUsed(int id);
+    bool isFauhradaUsed(int id);
+    bool isSkladUsed(int id);
+
+    // --- periods and per-year settings (dbmodel_obdobi.cpp) ---
+    // addObdobi (a family operation) also caches the year when it is the current one;
+    // deleteObdobi takes the period's rows with it (cascading keys).
+    bool setCurrentRok(int year);
     int currentRok();
+    int maxRok();
+    bool hasObdobiGreaterThan(int year);
+    int getObdobiCount();
     wxArrayString getObdobiAsStrings(int after);
+    int getSplatnost(int year);
+
+    // --- number series (dbmodel_rada.cpp) ---
+    lxRadaArray rady();
+    bool editRada(const Rada& rada);
+    int getRadaCislo(const wxString& id);
+    wxString getCisloDokladu(const wxString& id);
+    bool increaseRadaCislo(const wxString& id);
+    void setDefaultRadaCislo();
+    static int getCisloZDokladu(const wxString& cislo, int prefixLength, int minimum);
+
+    // --- currencies and exchange rates (dbmodel_mena.cpp) ---
+    lxMenaArray meny();
+    Mena getMena(const wxString& text);  // looks the text up in the id column
+    bool hasMena(const wxString& kod);
+    wxString kodMena(int id);
+    wxString nazevMena(int id);
+    bool hasKurz(const wxString& kod);
+    bool hasKurz(const wxString& kod, const wxDateTime& datum);
+    // The latest daily rate on or before the date. The home currency needs no lookup: CZK
+    // gives the rate 1 (a record with id -1 that is not stored).
+    Kurz getKurz(const wxString& kod, const wxDateTime& datum);
+    bool hasJednotnyKurz(int rok, const wxString& kod);
+    Kurz getJednotnyKurz(const wxString& kod, int rok);
+    // Stores the rates of one downloaded list under new ids, all of them or none.
+    bool addKurzy(const std::vector<Kurz>& kurzy);
+
+    // --- list rows for the book pages (dbmodel_views.cpp) ---
+    lxDenikViewArray denikview();
+    lxDenikViewArray denikviewPokladna();
+    lxDenikViewArray denikviewBanka();
+    lxFakturaViewArray vystaveneview();
+    lxFakturaViewArray prijateview();
+    lxZavPohViewArray pohledavkyview();
+    lxZavPohViewArray zavazkyview();
+    lxKontaktViewArray kontaktyview();
+    lxMajetekViewArray majetekview();
+    lxZasobaViewArray zasobyview();
+    lxJizdaViewArray jizdyview();
+
+    // --- home page summaries (dbmodel_homepage.cpp) ---
+    wxString homepagePrijmy();
+    wxString homepageVydaje();
+    wxString homepageVydane();
+    wxString homepagePrijate();
+    wxString homepagePohledavky();
+    wxString homepageZavazky();
+
+    // --- sorting (sorting.cpp) ---
+    // Stable sorts of a page's rows by the index of a clicked list column; an unknown index
+    // leaves the rows as they are. Columns: journal entries datum, cislo, popis, castka,
+    // castkacizi, kurz, reference, vypis, id; journal rows datum, cislo, popis, castka,
+    // prijem, zkratka, vypis; items popis, mj, pocet, cenamj, sazbaid, dph, celkem; VAT
+    // classifications zkratka, popis, plneni, radky, kpp, kh, nabizet, id.
+    static void sortDenik(lxDenikArray& rows, int column, bool ascending);
+    static void sortDenikView(lxDenikViewArray& rows, int column, bool ascending);
+    static void sortFaPolozky(lxFaPolozkaArray& rows, int column, bool ascending);
+    static void sortDphDruh(lxDphDruhArray& rows, int column, bool ascending);
 
     // --- notifications ---
     void fireUpdated(int page);
     void fireMsg(const wxString& text);
+
+    // True when the settings choose a storage other than one SQLite file per company; every
+    // operation then does nothing and returns its empty result.
+    static bool isForeignStorage();
 
     // The connection, for the model's own domain files and the tests.
     wxSQLite3Database& db() { return m_db; }

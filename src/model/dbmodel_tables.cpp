@@ -98,7 +98,7 @@ wxString DbModel::getVersion() { return "SQLite3 " + wxSQLite3Database::GetVersi
 int DbModel::getLastId(const wxString& table) {
     int id = 0;
     execScalarInt(wxString::Format("SELECT max(id) FROM %s", table), &id);
-    return id;
+    return id + 1;
 }
 
 bool DbModel::hasTable(const wxString& table) {

@@ -1,0 +1,122 @@
+// List rows of the book pages. Each list is one joined query; the result columns carry the
+// names of the view record's fields, which is how recordio fills them.
+#include "dbmodel.h"
+#include "recordio.h"
+
+namespace {
+
+// Journal entries of a year with the code of their bank account (part 0) or cash register
+// (part 1). The inner join leaves out entries whose account or register no longer exists.
+wxString denikPart(int part, const char* registerTable, const char* registerColumn) {
+    return wxString::Format(
+        "SELECT %d AS part, d.id AS id, d.datum AS datum, d.cislo AS cislo, d.popis AS popis, "
+        "d.castka AS castka, p.prijem AS prijem, r.zkratka AS zkratka, d.vypis AS vypis "
+        "FROM denik d JOIN %s r ON d.%s=r.id LEFT JOIN predkontace p ON d.predkontaceid=p.id "
+        "WHERE d.obdobirok=:rok",
+        part, registerTable, registerColumn);
+}
+
+const char* const DENIK_ORDER = " ORDER BY part, datum, id";
+
+// Invoices or receivables/liabilities of a year with their counterparty and the amount paid
+// so far; `direction` is the condition that picks issued or received ones.
+wxString dokladyView(const char* table, const char* paidBy, const char* extraColumns, const char* direction) {
+    return wxString::Format(
+        "SELECT f.id AS id, f.cislo AS cislo, f.popis AS popis, k.nazev AS protistrana, f.celkem AS celkem, "
+        "f.vystaveni AS vystaveni, f.splatnost AS splatnost, IFNULL(u.uhrazeno,0) AS uhrazeno%s "
+        "FROM %s f LEFT JOIN kontakt k ON f.protistranaid=k.id "
+        "LEFT JOIN (SELECT %s AS dokladid, total(castka) AS uhrazeno FROM uhrada WHERE %s IS NOT NULL GROUP BY %s) u "
+        "ON u.dokladid=f.id "
+        "WHERE f.obdobirok=? AND %s ORDER BY f.cislo, f.id",
+        extraColumns, table, paidBy, paidBy, paidBy, direction);
+}
+
+}  // namespace
+
+// The bank entries first, then the cash entries, each by date.
+lxDenikViewArray DbModel::denikview() {
+    if (isForeignStorage()) return {};
+    const wxString sql =
+        denikPart(0, "banka", "bankaid") + " UNION ALL " + denikPart(1, "pokladna", "pokladnaid") + DENIK_ORDER;
+    return recordio::query<DenikView>(m_db, sql, currentRok());
+}
+
+lxDenikViewArray DbModel::denikviewPokladna() {
+    if (isForeignStorage()) return {};
+    return recordio::query<DenikView>(m_db, denikPart(1, "pokladna", "pokladnaid") + DENIK_ORDER, currentRok());
+}
+
+lxDenikViewArray DbModel::denikviewBanka() {
+    if (isForeignStorage()) return {};
+    return recordio::query<DenikView>(m_db, denikPart(0, "banka", "bankaid") + DENIK_ORDER, currentRok());
+}
+
+lxFakturaViewArray DbModel::vystaveneview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<FakturaView>(
+        m_db, dokladyView("faktura", "fakturaid", ", f.platce AS platce, f.typid AS typid", "f.vydana=1"),
+        currentRok());
+}
+
+lxFakturaViewArray DbModel::prijateview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<FakturaView>(
+        m_db, dokladyView("faktura", "fakturaid", ", f.platce AS platce, f.typid AS typid", "IFNULL(f.vydana,0)<>1"),
+        currentRok());
+}
+
+lxZavPohViewArray DbModel::pohledavkyview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<ZavPohView>(m_db, dokladyView("zavpoh", "zavpohid", "", "IFNULL(f.zavazek,0)<>1"),
+                                       currentRok());
+}
+
+lxZavPohViewArray DbModel::zavazkyview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<ZavPohView>(m_db, dokladyView("zavpoh", "zavpohid", "", "f.zavazek=1"), currentRok());
+}
+
+// Contact 0 (no counterparty) is not an entry of the address book.
+lxKontaktViewArray DbModel::kontaktyview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<KontaktView>(
+        m_db,
+        "SELECT k.id AS id, k.nazev AS nazev, k.jmeno AS jmeno, k.ic AS ic, k.dic AS dic, k.email AS email, "
+        "a.ulice AS ulice, a.cp AS cp, a.misto AS misto, a.psc AS psc, a.zeme AS zeme "
+        "FROM kontakt k LEFT JOIN adresa a ON k.adresaid=a.id WHERE k.id<>0 ORDER BY k.nazev COLLATE NOCASE, k.id");
+}
+
+// Assets acquired up to the end of the current year, with the depreciation booked up to it.
+lxMajetekViewArray DbModel::majetekview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<MajetekView>(
+        m_db,
+        "SELECT m.id AS id, m.cislo AS cislo, m.nazev AS nazev, m.porizen AS porizen, m.cena AS cena, "
+        "s.popis AS skupina, m.vyrazen AS vyrazen, IFNULL(o.odepsano,0) AS odepsano "
+        "FROM majetek m LEFT JOIN odpiskupina s ON m.skupinaid=s.id "
+        "LEFT JOIN (SELECT majetekid, total(odpis) AS odepsano FROM odpis WHERE rok<=:rok GROUP BY majetekid) o "
+        "ON o.majetekid=m.id "
+        "WHERE m.porizen IS NULL OR CAST(strftime('%Y', m.porizen) AS INTEGER)<=:rok ORDER BY m.cislo, m.id",
+        currentRok());
+}
+
+lxZasobaViewArray DbModel::zasobyview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<ZasobaView>(
+        m_db,
+        "SELECT z.id AS id, z.cislo AS cislo, z.nazev AS nazev, z.pocet AS pocet, z.celkem AS celkem, z.mj AS mj, "
+        "s.nazev AS sklad FROM zasoba z LEFT JOIN sklad s ON z.skladid=s.id ORDER BY z.cislo, z.id");
+}
+
+// Trips carry no period of their own; the page shows those that started in the current year.
+lxJizdaViewArray DbModel::jizdyview() {
+    if (isForeignStorage()) return {};
+    return recordio::query<JizdaView>(
+        m_db,
+        "SELECT j.id AS id, j.startcas AS startcas, j.endcas AS endcas, "
+        "IFNULL(j.endkm,0)-IFNULL(j.startkm,0) AS km, v.rz AS vozidlo, r.jmeno AS ridic, j.cesta AS cesta, "
+        "j.ucel AS ucel, v.soukrome AS soukrome "
+        "FROM jizda j LEFT JOIN vozidlo v ON j.vozidloid=v.id LEFT JOIN ridic r ON j.ridicid=r.id "
+        "WHERE CAST(strftime('%Y', j.startcas) AS INTEGER)=? ORDER BY j.startcas, j.id",
+        currentRok());
+}

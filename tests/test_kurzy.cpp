@@ -1,0 +1,387 @@
+// Currencies and exchange rates: lookups of stored rates, and the downloads of the national
+// bank's daily list and of the yearly rates from a real HTTP server on loopback.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+#include <wx/dir.h>
+#include <wx/ffile.h>
+#include <wx/filename.h>
+#include <wx/utils.h>
+
+#include <cstdio>
+#include <cstring>
+#include <string>
+
+#include "download.h"
+#include "lxsettings.h"
+#include "lxutils.h"
+#include "testcompany.h"
+
+using ::testing::HasSubstr;
+
+namespace {
+
+// Serves files of a directory; the query of a request becomes part of the file name
+// ("denni_kurz.txt?date=02.01.2024" is "denni_kurz.txt__date=02.01.2024"); a file
+// "<name>.moved" beside a name answers with a redirect to its content.
+const char* const SERVER_PY = R"(import http.server, os, sys, urllib.parse
+root = sys.argv[1]
+class Handler(http.server.BaseHTTPRequestHandler):
+    def do_GET(self):
+        name = os.path.join(root, urllib.parse.unquote(self.path).lstrip('/').replace('?', '__'))
+        if os.path.isfile(name + '.moved'):
+            self.send_response(302)
+            self.send_header('Location', open(name + '.moved').read())
+            self.send_header('Content-Length', '0')
+            self.end_headers()
+            return
+        if not os.path.isfile(name):
+            self.send_error(404)
+            return
+        data = open(name, 'rb').read()
+        self.send_response(200)
+        self.send_header('Content-Type', 'text/plain; charset=UTF-8')
+        self.send_header('Content-Length', str(len(data)))
+        self.end_headers()
+        self.wfile.write(data)
+    def log_message(self, *args):
+        pass
+server = http.server.ThreadingHTTPServer(('127.0.0.1', 0), Handler)
+print(server.server_port, flush=True)
+server.serve_forever()
+)";
+
+const std::string LIST_PATH = "cs/financni_trhy/devizovy_trh/kurzy_devizoveho_trhu/denni_kurz.txt";
+
+const char* const GOOD_LIST =
+    "02.01.2024 #1\n"
+    "země|měna|množství|kód|kurz\n"
+    "EMU|euro|1|EUR|24,685\n"
+    "Indonesie|rupie|1000|IDR|1,456\n"
+    "Japonsko|jen|100|JPY|15,234\n"
+    "USA|dolar|1|USD|22,526\n";
+
+wxDateTime day(const char* iso) {
+    wxDateTime d;
+    d.ParseISODate(iso);
+    return d;
+}
+
+void writeFile(const wxString& path, const std::string& content) {
+    wxFileName::Mkdir(wxFileName(path).GetPath(), 0777, wxPATH_MKDIR_FULL);
+    wxFFile f(path, "wb");
+    ASSERT_TRUE(f.IsOpened()) << path;
+    f.Write(content.data(), content.size());
+}
+
+std::string readFile(const wxString& path) {
+    wxFFile f(path, "rb");
+    std::string s(static_cast<size_t>(f.Length()), '\0');
+    f.Read(&s[0], s.size());
+    return s;
+}
+
+struct CliResult {
+    int status;
+    std::string output;
+};
+
+CliResult runCli(const wxString& args) {
+    const wxString command = wxString(EVIDA_CLI) + " " + args + " 2>&1";
+    CliResult result{-1, {}};
+    FILE* pipe = popen(command.utf8_str(), "r");
+    if (!pipe) return result;
+    char buffer[512];
+    while (fgets(buffer, sizeof buffer, pipe)) result.output += buffer;
+    const int status = pclose(pipe);
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
+
+}  // namespace
+
+class Currencies : public TestCompany {
+ protected:
+    void SetUp() override {
+        TestCompany::SetUp();
+        m_path = createCompany();
+    }
+
+    // Makes `rok` the current period as the program would find it on opening the file.
+    void switchYear(int rok) {
+        m_model->db().ExecuteUpdate("UPDATE obdobi SET current=0");
+        m_model->db().ExecuteUpdate(wxString::Format("INSERT OR REPLACE INTO obdobi(rok,current) VALUES(%d,1)", rok));
+        m_model->closeDatabase();
+        ASSERT_TRUE(m_model->openDatabase(m_path));
+        ASSERT_EQ(m_model->currentRok(), rok);
+    }
+
+    void addRate(const char* datum, const char* kod, double hodnota, bool jednotny = false) {
+        ASSERT_TRUE(m_model->addKurz(Kurz(m_model->getLastId("kurz"), day(datum), hodnota, kod, jednotny)));
+    }
+
+    wxString m_path;
+};
+
+struct ValidityCase {
+    int rok;
+    int count;
+    const char* valid;    // one currency that the year must offer
+    const char* invalid;  // and one it must not
+};
+class CurrenciesOfYear : public Currencies, public ::testing::WithParamInterface<ValidityCase> {};
+TEST_P(CurrenciesOfYear, OnlyThoseValidInTheCurrentYear) {
+    const ValidityCase c = GetParam();
+    switchYear(c.rok);
+    const lxMenaArray meny = m_model->meny();
+    EXPECT_EQ(meny.size(), static_cast<size_t>(c.count));
+    wxArrayString kody;
+    for (const auto& m : meny) kody.Add(m->kod());
+    EXPECT_EQ(kody[0], "CZK");
+    EXPECT_NE(kody.Index(c.valid), wxNOT_FOUND) << c.valid;
+    EXPECT_EQ(kody.Index(c.invalid), wxNOT_FOUND) << c.invalid;
+}
+INSTANTIATE_TEST_SUITE_P(Validity, CurrenciesOfYear,
+                         ::testing::Values(ValidityCase{2006, 35, "SIT", "BRL"}, ValidityCase{2008, 34, "SKK", "INR"},
+                                           ValidityCase{2014, 33, "LTL", "LVL"}, ValidityCase{2015, 32, "ILS", "LTL"}));
+
+TEST_F(Currencies, LookupsByIdCodeAndName) {
+    EXPECT_EQ(m_model->getMena("2").kod(), "EUR");
+    EXPECT_FALSE(m_model->getMena("EUR").isValid()) << "the text is looked up among ids, not codes";
+    EXPECT_TRUE(m_model->hasMena("EUR"));
+    EXPECT_FALSE(m_model->hasMena("2"));
+    EXPECT_FALSE(m_model->hasMena("XYZ"));
+    EXPECT_EQ(m_model->kodMena(15), "JPY");
+    EXPECT_EQ(m_model->kodMena(99), "");
+    EXPECT_EQ(m_model->nazevMena(1), u8("Kč - Česká koruna"));
+    EXPECT_EQ(m_model->nazevMena(3), u8("USD - Americký dolar"));
+    EXPECT_EQ(m_model->nazevMena(99), "");
+}
+
+TEST_F(Currencies, DailyRateIsTheLatestOnOrBeforeTheDay) {
+    addRate("2024-02-29", "EUR", 25.1);
+    addRate("2024-03-01", "EUR", 25.3);
+    addRate("2024-12-31", "EUR", 25.0, /*jednotny=*/true);
+    addRate("2024-03-04", "USD", 23.0);
+    const struct {
+        const char* datum;
+        double hodnota;
+    } cases[] = {{"2024-02-29", 25.1}, {"2024-03-01", 25.3}, {"2024-03-03", 25.3}, {"2025-01-05", 25.3}};
+    for (const auto& c : cases) EXPECT_DOUBLE_EQ(m_model->getKurz("EUR", day(c.datum)).hodnota(), c.hodnota) << c.datum;
+    EXPECT_TRUE(m_model->hasKurz("EUR", day("2024-03-01")));
+    EXPECT_FALSE(m_model->hasKurz("EUR", day("2024-03-03"))) << "Sunday has no list of its own";
+    EXPECT_FALSE(m_model->hasKurz("EUR", day("2024-12-31"))) << "a yearly rate is not a daily one";
+    EXPECT_FALSE(m_model->getKurz("EUR", day("2004-12-31")).isValid());
+    EXPECT_FALSE(m_model->getKurz("EUR", wxDateTime()).isValid());
+    EXPECT_TRUE(m_model->hasKurz("USD"));
+    EXPECT_FALSE(m_model->hasKurz("XYZ"));
+
+    const Kurz home = m_model->getKurz("CZK", day("2024-03-03"));
+    EXPECT_DOUBLE_EQ(home.hodnota(), 1.0);
+    EXPECT_EQ(home.id(), -1);
+}
+
+TEST_F(Currencies, ForeignStorageAnswersNothing) {
+    addRate("2024-03-01", "EUR", 25.3);
+    lxSettings::instance()->setDbmodel(1);
+    EXPECT_TRUE(m_model->meny().empty());
+    EXPECT_FALSE(m_model->hasMena("EUR"));
+    EXPECT_EQ(m_model->nazevMena(1), "");
+    EXPECT_FALSE(m_model->hasKurz("EUR", day("2024-03-01")));
+    EXPECT_FALSE(m_model->getKurz("EUR", day("2024-03-01")).isValid());
+    EXPECT_FALSE(lxutils::kurzyDownload(day("2024-03-01")));
+    lxSettings::instance()->setDbmodel(DBMODEL_SQLITE);
+}
+
+// A company with a rate server on loopback that the download URLs point to.
+class RateDownload : public Currencies {
+ protected:
+    void SetUp() override {
+        Currencies::SetUp();
+        m_www = m_home + "/www";
+        ASSERT_TRUE(wxFileName::Mkdir(m_www, 0777, wxPATH_MKDIR_FULL));
+        const wxString script = m_home + "/server.py";
+        writeFile(script, SERVER_PY);
+        int out[2];
+        ASSERT_EQ(pipe(out), 0);
+        m_server = fork();
+        ASSERT_GE(m_server, 0);
+        if (m_server == 0) {
+            dup2(out[1], STDOUT_FILENO);
+            close(out[0]);
+            close(out[1]);
+            execl("/usr/bin/python3", "python3", static_cast<const char*>(script.utf8_str()),
+                  static_cast<const char*>(m_www.utf8_str()), static_cast<char*>(nullptr));
+            _exit(127);
+        }
+        close(out[1]);
+        FILE* in = fdopen(out[0], "r");
+        char line[32] = "";
+        const bool started = fgets(line, sizeof line, in) != nullptr;
+        fclose(in);
+        ASSERT_TRUE(started) << "the rate server did not start";
+        m_base = wxString::Format("http://127.0.0.1:%d", std::atoi(line));
+        wxSetEnv("EVIDA_CNB_URL", m_base);
+        wxSetEnv("EVIDA_UPDATE_URL", m_base + "/");
+    }
+
+    void TearDown() override {
+        if (m_server > 0) {
+            kill(m_server, SIGTERM);
+            waitpid(m_server, nullptr, 0);
+        }
+        wxUnsetEnv("EVIDA_CNB_URL");
+        wxUnsetEnv("EVIDA_UPDATE_URL");
+        Currencies::TearDown();
+    }
+
+    // The national bank's list for a date written "dd.mm.yyyy".
+    void serveDaily(const char* date, const std::string& content) {
+        writeFile(m_www + "/" + LIST_PATH + "__date=" + date, content);
+    }
+
+    int rates() { return scalar("SELECT count(*) FROM kurz"); }
+    wxString dataFile(const wxString& name) { return lxutils::dataDir() + "/" + name; }
+
+    wxString m_www;
+    wxString m_base;
+    pid_t m_server = -1;
+};
+
+TEST_F(RateDownload, DailyListStoresEachRatePerOneUnitUnderNewIds) {
+    // The configured address answers with a redirect to the list, as the bank's old one does.
+    wxSetEnv("EVIDA_CNB_URL", m_base + "/stary");
+    writeFile(m_www + "/stary/" + LIST_PATH + "__date=02.01.2024.moved", "/" + LIST_PATH + "?date=02.01.2024");
+    serveDaily("02.01.2024", GOOD_LIST);
+    const int before = rates();
+    const int firstId = m_model->getLastId("kurz");
+    int stored = 0;
+    ASSERT_TRUE(lxutils::kurzyDownload(day("2024-01-02"), &stored));
+    EXPECT_EQ(stored, 4);
+    EXPECT_EQ(rates(), before + 4);
+    EXPECT_EQ(scalar("SELECT min(id) FROM kurz WHERE datum='2024-01-02'"), firstId);
+    EXPECT_EQ(scalar("SELECT max(id) FROM kurz WHERE datum='2024-01-02'"), firstId + 3);
+    EXPECT_EQ(scalar("SELECT count(*) FROM kurz WHERE datum='2024-01-02' AND jednotny=0"), 4);
+    const struct {
+        const char* kod;
+        double hodnota;
+    } expected[] = {{"EUR", 24.685}, {"IDR", 0.001456}, {"JPY", 0.15234}, {"USD", 22.526}};
+    for (const auto& e : expected)
+        EXPECT_NEAR(m_model->getKurz(e.kod, day("2024-01-02")).hodnota(), e.hodnota, 1e-12) << e.kod;
+    EXPECT_EQ(readFile(dataFile("02.01.2024.txt")), GOOD_LIST);
+}
+
+TEST_F(RateDownload, GarbageLinesAreSkippedAndUnreadableNumbersCountAsOne) {
+    serveDaily("02.01.2024",
+               "02.01.2024 #1\r\n"
+               "země|měna|množství|kód|kurz\r\n"
+               "\r\n"
+               "<html><body>Chyba</body></html>\r\n"
+               "EMU|euro|1|EUR\r\n"
+               "USA|dolar|1|USD|22,526|navíc\r\n"
+               "Polsko|zlotý|1|PLN|5,651\r\n"
+               "Švédsko|koruna|sto|SEK|2,213\r\n"
+               "Norsko|koruna|1|NOK|neuvedeno\r\n"
+               "Thajsko|baht|0|THB|65,711\r\n"
+               "Island|koruna|100|ISK|16,380");  // a line without its line feed is not complete
+    int stored = 0;
+    ASSERT_TRUE(lxutils::kurzyDownload(day("2024-01-02"), &stored));
+    EXPECT_EQ(stored, 4);
+    const wxDateTime d = day("2024-01-02");
+    EXPECT_DOUBLE_EQ(m_model->getKurz("PLN", d).hodnota(), 5.651);
+    EXPECT_DOUBLE_EQ(m_model->getKurz("SEK", d).hodnota(), 2.213);
+    EXPECT_DOUBLE_EQ(m_model->getKurz("NOK", d).hodnota(), 1.0);
+    EXPECT_DOUBLE_EQ(m_model->getKurz("THB", d).hodnota(), 65.711);
+    for (const char* kod : {"EUR", "USD", "ISK"}) EXPECT_FALSE(m_model->hasKurz(kod, d)) << kod;
+}
+
+TEST_F(RateDownload, SameDateTwiceStoresTwiceAndLookupsStillAnswer) {
+    serveDaily("02.01.2024", GOOD_LIST);
+    const int before = rates();
+    ASSERT_TRUE(lxutils::kurzyDownload(day("2024-01-02")));
+    ASSERT_TRUE(lxutils::kurzyDownload(day("2024-01-02")));
+    EXPECT_EQ(rates(), before + 8);
+    EXPECT_TRUE(m_model->hasKurz("JPY", day("2024-01-02")));
+    EXPECT_NEAR(m_model->getKurz("JPY", day("2024-01-03")).hodnota(), 0.15234, 1e-12);
+}
+
+struct FailCase {
+    const char* name;
+    const char* content;  // null: nothing is served
+    bool fileKept;
+};
+class FailedDownload : public RateDownload, public ::testing::WithParamInterface<FailCase> {};
+TEST_P(FailedDownload, StoresNothing) {
+    const FailCase c = GetParam();
+    if (c.content) serveDaily("02.01.2024", c.content);
+    const int before = rates();
+    int stored = -1;
+    EXPECT_FALSE(lxutils::kurzyDownload(day("2024-01-02"), &stored));
+    EXPECT_EQ(stored, 0);
+    EXPECT_EQ(rates(), before);
+    EXPECT_EQ(wxFileName::FileExists(dataFile("02.01.2024.txt")), c.fileKept);
+    EXPECT_FALSE(wxFileName::FileExists(dataFile("02.01.2024.txt.part")));
+}
+INSTANTIATE_TEST_SUITE_P(Lists, FailedDownload,
+                         ::testing::Values(FailCase{"not_found_error_page", nullptr, false},
+                                           FailCase{"no_line_feed", "EMU|euro|1|EUR|24,685", false},
+                                           FailCase{"no_rate_in_list", "02.01.2024 #1\nzemě|měna|množství|kód|kurz\n",
+                                                    true}),
+                         [](const auto& i) { return std::string(i.param.name); });
+
+TEST_F(RateDownload, FailedTransferKeepsAnEarlierFileWhole) {
+    writeFile(dataFile("02.01.2024.txt"), GOOD_LIST);
+    EXPECT_FALSE(lxutils::downloadFileFromNet(m_base + "/nic.txt", lxutils::dataDir(), "02.01.2024.txt"));
+    EXPECT_EQ(readFile(dataFile("02.01.2024.txt")), GOOD_LIST);
+    EXPECT_FALSE(lxutils::downloadFileFromNet("ftp://127.0.0.1/x.txt", lxutils::dataDir(), "x.txt"));
+}
+
+TEST_F(RateDownload, YearlyRatesFromTheProgramsServer) {
+    writeFile(m_www + "/kurzy/2023.txt",
+              "Jednotný kurz 2023\n"
+              "EMU|1|EUR|24,004\n"
+              "Japonsko|100|JPY|16,500\n"
+              "USA|dolar|1|USD|22,205\n");  // five fields: not a line of this list
+    addRate("2024-06-30", "EUR", 25.5);
+    int stored = 0;
+    ASSERT_TRUE(lxutils::jednotnekurzyDownload(2023, &stored));
+    EXPECT_EQ(stored, 2);
+    EXPECT_TRUE(wxFileName::FileExists(dataFile("2023.txt")));
+    EXPECT_DOUBLE_EQ(m_model->getJednotnyKurz("EUR", 2023).hodnota(), 24.004);
+    EXPECT_NEAR(m_model->getJednotnyKurz("JPY", 2023).hodnota(), 0.165, 1e-12);
+    EXPECT_FALSE(m_model->hasJednotnyKurz(2023, "USD"));
+    EXPECT_FALSE(m_model->hasJednotnyKurz(2024, "EUR")) << "a daily rate is not a yearly one";
+    EXPECT_FALSE(m_model->getJednotnyKurz("EUR", 2024).isValid());
+    EXPECT_FALSE(m_model->hasKurz("EUR", m_model->getJednotnyKurz("EUR", 2023).datum()));
+    EXPECT_FALSE(lxutils::jednotnekurzyDownload(2022));
+}
+
+// Counts rows of a closed company file without opening it as a company: opening would run the
+// checks, which put the seeded rate list back whenever kurz holds another number of rows.
+int countInFile(const wxString& path, const wxString& sql) {
+    wxSQLite3Database db;
+    db.Open(path, wxEmptyString, WXSQLITE_OPEN_READONLY);
+    return db.ExecuteScalar(sql);
+}
+
+TEST_F(RateDownload, CommandLineStoresTheRatesOfADay) {
+    serveDaily("02.01.2024", GOOD_LIST);
+    m_model->closeDatabase();
+
+    const CliResult ok = runCli("rates " + m_path + " 2024-01-02");
+    EXPECT_EQ(ok.status, 0) << ok.output;
+    EXPECT_THAT(ok.output, HasSubstr("Uloženo kurzů ke dni 2024-01-02: 4"));
+    EXPECT_EQ(countInFile(m_path, "SELECT count(*) FROM kurz WHERE datum='2024-01-02' AND jednotny=0"), 4);
+    EXPECT_EQ(countInFile(m_path, "SELECT count(*) FROM kurz WHERE kod='JPY' AND hodnota=0.15234"), 1);
+
+    const CliResult badDate = runCli("rates " + m_path + " 2024-13-01");
+    EXPECT_EQ(badDate.status, 2);
+    EXPECT_THAT(badDate.output, HasSubstr("Neplatné datum"));
+
+    const CliResult noList = runCli("rates " + m_path + " 2024-01-03");
+    EXPECT_EQ(noList.status, 1);
+    EXPECT_THAT(noList.output, HasSubstr("nepodařilo stáhnout"));
+    EXPECT_EQ(countInFile(m_path, "SELECT count(*) FROM kurz WHERE datum='2024-01-03'"), 0);
+}
