@@ -1,0 +1,53 @@
+#include "pokladniknihaprint.h"
+
+namespace {
+
+wxString u8(const char* text) { return wxString::FromUTF8(text); }
+wxString castka(double value) { return wxString::Format("%.2f", value); }
+
+}  // namespace
+
+PokladniKnihaPrint::PokladniKnihaPrint(wxWindow* parent, const wxString& firma, const wxString& pokladna, int rok,
+                                       double pocatecniStav, const std::vector<PokladniPohyb>& pohyby)
+    : MultiTablePrint(parent, wxString::Format(u8("Pokladní kniha %s %d"), pokladna, rok)) {
+    m_layout.headerLeftText = firma;
+    m_layout.headerRightText = m_title;
+    m_layout.headerLine = true;
+
+    Table kniha;
+    kniha.tableTitle.title = m_title;
+    for (const char* name : {"Datum", "Doklad", "Popis", "Příjem", "Výdej", "Zůstatek"})
+        kniha.addCellToHeader(u8(name));
+    kniha.setColumnWidth(2, 70);
+    double stav = pocatecniStav, prijmy = 0, vydaje = 0;
+    for (const PokladniPohyb& p : pohyby) {
+        stav += p.prijem - p.vydej;
+        prijmy += p.prijem;
+        vydaje += p.vydej;
+        kniha.addRow();
+        kniha.addCell(p.datum);
+        kniha.addCell(p.doklad);
+        kniha.addCell(p.popis);
+        kniha.addCell(p.prijem != 0 ? castka(p.prijem) : wxString(), wxTEXT_ALIGNMENT_RIGHT);
+        kniha.addCell(p.vydej != 0 ? castka(p.vydej) : wxString(), wxTEXT_ALIGNMENT_RIGHT);
+        kniha.addCell(castka(stav), wxTEXT_ALIGNMENT_RIGHT);
+    }
+
+    Table souhrn;
+    souhrn.tableTitle.title = u8("Souhrn");
+    souhrn.addCellToHeader(u8("Položka"));
+    souhrn.addCellToHeader(u8("Částka"), wxTEXT_ALIGNMENT_RIGHT);
+    const std::pair<const char*, double> radky[] = {{"Počáteční stav", pocatecniStav},
+                                                    {"Příjmy celkem", prijmy},
+                                                    {"Výdaje celkem", vydaje},
+                                                    {"Konečný stav", stav}};
+    for (const auto& [nazev, hodnota] : radky) {
+        souhrn.addRow();
+        souhrn.addCell(u8(nazev));
+        souhrn.addCell(castka(hodnota), wxTEXT_ALIGNMENT_RIGHT);
+    }
+
+    m_tabulky.push_back(kniha);
+    m_tabulky.push_back(souhrn);
+    setTables(&m_tabulky);
+}

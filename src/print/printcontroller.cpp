@@ -1,0 +1,66 @@
+#include "printcontroller.h"
+
+#include <wx/msgdlg.h>
+#include <wx/printdlg.h>
+
+#include "dbmodel.h"
+#include "lxpdfdc.h"
+
+lxPrintController::lxPrintController(wxWindow* parent, const wxString& title) : m_parent(parent), m_title(title) {}
+
+lxPrintController::~lxPrintController() = default;
+
+std::unique_ptr<lxPrint> lxPrintController::makePrintout(int pages, bool snapshot) {
+    std::unique_ptr<lxPrint> printout = createPrintout(snapshot);
+    printout->setLayout(m_layout);
+    printout->setPages(pages);
+    return printout;
+}
+
+wxPreviewFrame* lxPrintController::Preview() { return showPreview(false); }
+
+wxPreviewFrame* lxPrintController::showPreview(bool modal) {
+    const int pages = paginate();
+    std::unique_ptr<lxPrint> forPreview = makePrintout(pages, true);
+    std::unique_ptr<lxPrint> forPrinting = makePrintout(pages, true);
+    wxPrintDialogData data(forPreview->printData());
+    data.SetMinPage(1);
+    data.SetMaxPage(pages);
+    data.SetFromPage(1);
+    data.SetToPage(pages);
+    // The preview owns both printouts from here on.
+    auto* preview = new wxPrintPreview(forPreview.release(), forPrinting.release(), &data);
+    if (!preview->IsOk()) {
+        delete preview;
+        wxMessageBox("There was a problem with previewing.\nPerhaps your current printer is not set correctly?",
+                     "Previewing", wxOK);
+        return nullptr;
+    }
+    preview->SetZoom(100);
+    auto* frame = new wxPreviewFrame(preview, m_parent, m_title, wxDefaultPosition, wxSize(880, 650));
+    frame->InitializeWithModality(modal ? wxPreviewFrame_AppModal : wxPreviewFrame_NonModal);
+    frame->Centre(wxBOTH);
+    frame->Show();
+    return frame;
+}
+
+bool lxPrintController::Print() {
+    const int pages = paginate();
+    std::unique_ptr<lxPrint> printout = makePrintout(pages);
+    wxPrintDialogData data(printout->printData());
+    data.SetMinPage(1);
+    data.SetMaxPage(pages);
+    wxPrinter printer(&data);
+    return printer.Print(m_parent, printout.get(), true);
+}
+
+bool lxPrintController::writePdf(const wxString& path, const wxString& title, wxString* error, bool* fileWritten) {
+    const int pages = paginate();
+    std::unique_ptr<lxPrint> printout = makePrintout(pages);
+    const DbModel* model = DbModel::instance();
+    const wxString author = model ? model->firma().nazev() : wxString();
+    int written = 0;
+    const bool file = lxPdfDC::writePrintout(*printout, path, title, author, error, &written);
+    if (fileWritten) *fileWritten = file;
+    return file && written == pages;
+}
