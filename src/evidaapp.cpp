@@ -1,36 +1,110 @@
 #include "evidaapp.h"
 
+#include <wx/filename.h>
+#include <wx/icon.h>
 #include <wx/image.h>
-#include <wx/msgdlg.h>
+#include <wx/intl.h>
+#include <wx/log.h>
+#include <wx/stdpaths.h>
 #include <wx/sysopt.h>
+#include <wx/translation.h>
+#include <wx/utils.h>
+
+#include <cstdio>
 
 #include "evidaframe.h"
 #include "lxsettings.h"
+#include "prompts.h"
 
 wxIMPLEMENT_APP(evidaApp);
 
+namespace {
+
+// For runs without a person at the screen (scripts, the tests that start the program as a
+// process): with EVIDA_PROMPTS=stderr every message goes to standard error and every
+// question is answered with Cancel or No.
+class StderrPrompts : public ScriptedPrompts {
+ public:
+    void info(const wxString& text, const wxString& caption, wxWindow* parent) override {
+        print(caption, text);
+        ScriptedPrompts::info(text, caption, parent);
+    }
+    void error(const wxString& text, const wxString& caption, wxWindow* parent) override {
+        print(caption, text);
+        ScriptedPrompts::error(text, caption, parent);
+    }
+    bool question(const wxString& text, const wxString& caption, wxWindow* parent) override {
+        print(caption, text);
+        return ScriptedPrompts::question(text, caption, parent);
+    }
+
+ private:
+    static void print(const wxString& caption, const wxString& text) {
+        std::fprintf(stderr, "%s: %s\n", static_cast<const char*>(caption.utf8_str()),
+                     static_cast<const char*>(text.utf8_str()));
+        std::fflush(stderr);
+    }
+};
+
+}  // namespace
+
+evidaApp::evidaApp() = default;
+evidaApp::~evidaApp() = default;
+
 bool evidaApp::OnInit() {
     SetAppName("evida");
-    m_checker = std::make_unique<wxSingleInstanceChecker>("evida");
+    wxString mode;
+    if (wxGetEnv("EVIDA_PROMPTS", &mode) && mode == "stderr") {
+        m_prompts = std::make_unique<StderrPrompts>();
+        setPrompts(m_prompts.get());
+    }
+
+    m_checker = new wxSingleInstanceChecker("evida");
     if (m_checker->IsAnotherRunning()) {
-        wxMessageBox(wxString::FromUTF8("Evida už běží"), "Evida", wxOK | wxICON_ERROR);
-        m_checker.reset();
+        prompts().error(wxString::FromUTF8("Evida už běží"), "Evida");
+        delete m_checker;
+        m_checker = nullptr;
         return false;
     }
     wxInitAllImageHandlers();
     lxSettings::instance()->load();
     wxSystemOptions::SetOption("mac.listctrl.always_use_generic", 1);
+    initLocale();
 
     auto* frame = new evidaFrame("Evida");
-    if (!frame->loadDatabase()) {
+    if (!frame->isLoaded()) {
         frame->Destroy();
         return false;
     }
+    const wxString icon = evidaFrame::resourcesDir() + "/evida.png";
+    if (wxFileName::FileExists(icon)) frame->SetIcon(wxIcon(icon, wxBITMAP_TYPE_PNG));
     frame->Show();
     return true;
 }
 
+void evidaApp::initLocale() {
+    const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
+    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(exeDir + "/../Resources/locale");
+    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(evidaFrame::resourcesDir() + "/locale");
+#ifdef EVIDA_BUILD_LOCALE_DIR
+    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(EVIDA_BUILD_LOCALE_DIR);
+#endif
+    // A language the system cannot set (no generated locale) is not worth a message box.
+    wxLogNull quiet;
+    m_locale = std::make_unique<wxLocale>();
+    m_locale->Init(wxLANGUAGE_DEFAULT, wxLOCALE_LOAD_DEFAULT);
+    // The program speaks Czech whatever the system language: the texts that come from
+    // wxWidgets itself (wizard buttons and the like) are taken from the Czech catalogues.
+    if (wxTranslations* translations = wxTranslations::Get()) {
+        translations->SetLanguage(wxLANGUAGE_CZECH);
+        translations->AddStdCatalog();
+        translations->AddCatalog("evida");
+    }
+}
+
 int evidaApp::OnExit() {
-    m_checker.reset();
+    delete m_checker;
+    m_checker = nullptr;
+    setPrompts(nullptr);
     return 0;
 }

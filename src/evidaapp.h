@@ -1,4 +1,5 @@
-// The application object: single-instance guard, settings, then the main window.
+// The application object: the single-instance guard, the settings, the message catalogues
+// and the main window.
 #pragma once
 
 #include <wx/app.h>
@@ -6,13 +7,22 @@
 
 #include <memory>
 
+class Prompts;
+class wxLocale;
+
 class evidaApp : public wxApp {
-   public:
+ public:
+    evidaApp();
+    ~evidaApp() override;
     bool OnInit() override;
     int OnExit() override;
 
-   private:
-    std::unique_ptr<wxSingleInstanceChecker> m_checker;
+ private:
+    void initLocale();
+
+    wxSingleInstanceChecker* m_checker = nullptr;
+    std::unique_ptr<wxLocale> m_locale;
+    std::unique_ptr<Prompts> m_prompts;
 };
 
 wxDECLARE_APP(evidaApp);

@@ -7,6 +7,11 @@
 //   evida-cli rates FILE DATE
 //                           download the national bank's rates of DATE (YYYY-MM-DD) and
 //                           store them in the company, as the rate button of the dialogs does
+//   evida-cli import FILE CSV
+//                           import journal entries of the current year from a CSV file (date,
+//                           number, description, amount, register or account code, pre-posting
+//                           code, counterparty): all rows or, when one is bad, none
+//   evida-cli stav FILE     the balance of every cash register and bank account
 #include <wx/app.h>
 #include <wx/event.h>
 #include <wx/filename.h>
@@ -17,6 +22,7 @@
 
 #include "companysetup.h"
 #include "dbmodel.h"
+#include "denikimport.h"
 #include "download.h"
 #include "schema.h"
 
@@ -34,8 +40,9 @@ class MessagePrinter : public wxEvtHandler {
 };
 
 int usage() {
-    printErr(wxString::FromUTF8("Použití: evida-cli create|check|info SOUBOR\n"
-                                "         evida-cli rates SOUBOR DATUM   (DATUM jako RRRR-MM-DD)"));
+    printErr(wxString::FromUTF8("Použití: evida-cli create|check|info|stav SOUBOR\n"
+                                "         evida-cli rates SOUBOR DATUM   (DATUM jako RRRR-MM-DD)\n"
+                                "         evida-cli import SOUBOR CSV    (peněžní deník z CSV)"));
     return 2;
 }
 
@@ -104,6 +111,25 @@ int rates(DbModel& model, const wxString& path, const wxString& dateText) {
     return 0;
 }
 
+int importCsv(DbModel& model, const wxString& path, const wxString& csv) {
+    if (!open(model, path)) return 1;
+    const DenikImport result = importDenik(model, csv);
+    if (!result.ok) {
+        printErr(result.zprava);
+        return 1;
+    }
+    print(result.zprava);
+    return 0;
+}
+
+// The balances as the menu command "Stav pokladen a bankovních účtů" shows them.
+int stav(DbModel& model) {
+    wxString text = model.stavUctuAPokladen();
+    if (text.EndsWith("\n")) text.RemoveLast();
+    print(text);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -114,7 +140,7 @@ int main(int argc, char** argv) {
     wxLog::DisableTimestamp();
     if (argc < 3) return usage();
     const wxString command = wxString::FromUTF8(argv[1]);
-    if (argc != (command == "rates" ? 4 : 3)) return usage();
+    if (argc != (command == "rates" || command == "import" ? 4 : 3)) return usage();
     const wxString path = wxFileName(wxString::FromUTF8(argv[2])).GetAbsolutePath();
 
     MessagePrinter printer;
@@ -124,5 +150,7 @@ int main(int argc, char** argv) {
     if (command == "check") return open(model, path) ? 0 : 1;
     if (command == "info") return open(model, path) ? info(model) : 1;
     if (command == "rates") return rates(model, path, wxString::FromUTF8(argv[3]));
+    if (command == "import") return importCsv(model, path, wxFileName(wxString::FromUTF8(argv[3])).GetAbsolutePath());
+    if (command == "stav") return open(model, path) ? stav(model) : 1;
     return usage();
 }

@@ -1,78 +1,297 @@
 #include "evidaframe.h"
 
+#include <wx/app.h>
+#include <wx/busyinfo.h>
+#include <wx/dcmemory.h>
 #include <wx/filename.h>
-#include <wx/msgdlg.h>
+#include <wx/html/helpctrl.h>
+#include <wx/menu.h>
+#include <wx/splash.h>
 #include <wx/statusbr.h>
+#include <wx/stdpaths.h>
+#include <wx/treectrl.h>
+#include <wx/utils.h>
 
+#include "DatumDialog.h"
+#include "FirmaWizard.h"
+#include "KontaktyDialog.h"
+#include "PreferencesDialog.h"
+#include "ZalohaDialog.h"
+#include "book/lxbook.h"
+#include "clock.h"
+#include "companyfiles.h"
+#include "companysetup.h"
 #include "dbmodel.h"
 #include "lxsettings.h"
 #include "lxutils.h"
-#include "companysetup.h"
+#include "navigation.h"
+#include "prompts.h"
+
+namespace {
+
+wxString u8(const char* text) { return wxString::FromUTF8(text); }
+const char* const INFORMACE = "Informace";
+
+// The splash image is drawn here rather than shipped: the program's name and version.
+wxBitmap splashBitmap() {
+    wxBitmap bitmap(380, 170);
+    wxMemoryDC dc(bitmap);
+    dc.SetBackground(wxBrush(wxColour(31, 84, 140)));
+    dc.Clear();
+    dc.SetBrush(wxBrush(wxColour(242, 177, 52)));
+    dc.SetPen(*wxTRANSPARENT_PEN);
+    dc.DrawRectangle(0, 150, 380, 20);
+    dc.SetTextForeground(*wxWHITE);
+    dc.SetFont(wxFontInfo(30).Bold());
+    dc.DrawText("Evida", 28, 34);
+    dc.SetFont(wxFontInfo(10));
+    dc.DrawText(u8("Daňová evidence pro živnostníky a malé firmy"), 30, 92);
+    dc.DrawText(wxString::Format(u8("Verze %s – načítám data…"), lxutils::EVIDA_VERSION), 30, 116);
+    dc.SelectObject(wxNullBitmap);
+    return bitmap;
+}
+
+}  // namespace
+
+wxString evidaFrame::resourcesDir() {
+    const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
+    const wxString candidates[] = {exeDir + "/../Resources", exeDir + "/../share/evida",
+                                   wxStandardPaths::Get().GetResourcesDir(), EVIDA_SOURCE_DATA_DIR};
+    for (const wxString& dir : candidates) {
+        if (wxFileName::FileExists(dir + "/help/evida.hhp")) return wxFileName(dir, wxString()).GetAbsolutePath();
+    }
+    return EVIDA_SOURCE_DATA_DIR;
+}
 
 evidaFrame::evidaFrame(const wxString& title) : wxFrame(nullptr, wxID_ANY, title) {
-    lxSettings* s = lxSettings::instance();
-    SetSize(s->x(), s->y(), s->w(), s->h());
-    if (s->maximized()) Maximize();
+    lxSettings* settings = lxSettings::instance();
+    m_mgr.SetManagedWindow(this);
+    m_help = std::make_unique<wxHtmlHelpController>(wxHF_DEFAULT_STYLE, this);
+    const wxString book = resourcesDir() + "/help/evida.hhp";
+    if (wxFileName::FileExists(book)) m_help->AddBook(wxFileName(book));
+
+    createMenuBar();
     CreateStatusBar(3);
+    const int widths[] = {-3, -1, -2};
+    GetStatusBar()->SetStatusWidths(3, widths);
+
+    m_navigation = new wxTreeCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(200, 300),
+                                  wxTR_DEFAULT_STYLE | wxTR_HIDE_ROOT | wxTR_SINGLE | wxNO_BORDER);
+    m_book = new lxBook(this);
+    m_mgr.AddPane(m_navigation, wxAuiPaneInfo()
+                                    .Name("Navigation")
+                                    .Caption("Navigation")
+                                    .Left()
+                                    .BestSize(200, 100)
+                                    .MinSize(100, 100)
+                                    .CloseButton(false));
+    m_mgr.AddPane(m_book, wxAuiPaneInfo().Name("Book").Caption("Book").CenterPane());
+    if (!m_mgr.LoadPerspective(settings->auiperspective())) m_mgr.LoadPerspective(lxSettings::DEFAULT_PERSPECTIVE);
+    m_mgr.Update();
+
+    SetSize(settings->x(), settings->y(), settings->w(), settings->h());
+    if (settings->maximized()) Maximize();
+
     Bind(MODEL_UPDATED, &evidaFrame::onModelUpdated, this);
     Bind(MODEL_MSG, &evidaFrame::onModelMsg, this);
+    Bind(wxEVT_CLOSE_WINDOW, &evidaFrame::onClose, this);
+    m_navigation->Bind(wxEVT_TREE_SEL_CHANGED, &evidaFrame::onNavigation, this);
+
+    m_loaded = loadDatabase();
+    if (m_loaded) selectNavigation(NAV_HOME);
 }
 
 evidaFrame::~evidaFrame() {
-    lxSettings* s = lxSettings::instance();
-    if (!IsMaximized()) {
+    lxSettings* settings = lxSettings::instance();
+    const bool maximized = IsMaximized();
+    if (!maximized) {
         const wxRect r = GetRect();
-        s->setX(r.x);
-        s->setY(r.y);
-        s->setW(r.width);
-        s->setH(r.height);
+        settings->setX(r.x);
+        settings->setY(r.y);
+        settings->setW(r.width);
+        settings->setH(r.height);
     }
-    s->setMaximized(IsMaximized());
-    s->save();
+    settings->setMaximized(maximized);
+    settings->setAuiperspective(m_mgr.SavePerspective());
+    settings->save();
     if (m_model) {
         m_model->closeDatabase();
         m_model->shutdownModel();
     }
+    m_mgr.UnInit();
+    m_help.reset();
+    closeSplash();
+    // The pages may still ask the model while they go; let them go before it does.
+    DestroyChildren();
+    m_model.reset();
 }
 
 bool evidaFrame::loadDatabase() {
     m_model = std::make_unique<DbModel>(this);
     m_model->initModel();
-    lxSettings* s = lxSettings::instance();
+    lxSettings* settings = lxSettings::instance();
+    if (settings->dbname().empty()) {
+        FirmaWizard wizard(this, true);
+        if (!wizard.run()) return false;
+    }
+    showSplash();
+    // Settings written before company keys existed name companies without their IČ.
     if (lxutils::versionToInt(lxutils::EVIDA_VERSION) > 1299) m_model->updateDbFirma();
-    if (s->dbname().empty()) s->setDbname(lxutils::getUniqueDbName());
-    const wxString path = lxutils::dataDir() + "/" + s->dbname();
+    const wxString path = lxutils::dataDir() + "/" + settings->dbname();
     if (wxFileName::FileExists(path)) {
         if (!m_model->openDatabase()) {
-            wxMessageBox(wxString::FromUTF8("Nepodařilo se otevřít databázi"), "Informace", wxOK | wxICON_ERROR);
+            closeSplash();
+            prompts().error(u8("Nepodařilo se otevřít databázi"), u8(INFORMACE), this);
             return false;
         }
         m_model->fillData();
     } else {
-        if (!companysetup::createPlaceholderCompany(*m_model, path)) {
-            wxMessageBox(wxString::FromUTF8("Nepodařilo se otevřít databázi"), "Informace", wxOK | wxICON_ERROR);
+        if (settings->dbname().empty()) settings->setDbname(lxutils::getUniqueDbName());
+        if (!companysetup::createPlaceholderCompany(*m_model, lxutils::dataDir() + "/" + settings->dbname())) {
+            closeSplash();
+            prompts().error(u8("Nepodařilo se otevřít databázi"), u8(INFORMACE), this);
             return false;
         }
-        wxMessageBox(wxString::FromUTF8("Nepodařilo se otevřít databázi\nByla vytvořena nová"), "Informace",
-                     wxOK | wxCENTRE);
+        refreshPages(NAV_ALL);
+        // The splash stays on top of everything; it must not hide the message.
+        closeSplash();
+        prompts().info(u8("Nepodařilo se otevřít databázi\nByla vytvořena nová"), u8(INFORMACE), this);
     }
-    const Firma& f = m_model->firma();
-    s->addDbnamePair(s->dbname(), f.nazev() + "_" + f.ic());
-    s->editDbnamePair(s->dbname(), f.nazev() + "_" + f.ic());
-    updateStatusBar();
+    finishLoad();
     return true;
 }
 
+void evidaFrame::finishLoad() {
+    closeSplash();
+    lxSettings* settings = lxSettings::instance();
+    const Firma& firma = m_model->firma();
+    const wxString key = companyfiles::firmaKey(firma.nazev(), firma.ic());
+    // The settings always follow the company record in the database.
+    if (settings->dbmap().count(settings->dbname()))
+        settings->editDbnamePair(settings->dbname(), key);
+    else
+        settings->addDbnamePair(settings->dbname(), key);
+    enableCommands();
+    settings->setDatum(lxutils::todayForObdobi());
+    settings->setSplatnost(m_model->getSplatnost(m_model->currentRok()));
+    if (!m_pagesCreated) {
+        m_book->createPages();
+        m_pagesCreated = true;
+    }
+    refreshPages(NAV_ALL);
+    createRemoveJizdy();
+    updateStatusBar();
+}
+
+void evidaFrame::showSplash() {
+    if (m_splash) return;
+    m_splash =
+        new wxSplashScreen(splashBitmap(), wxSPLASH_CENTRE_ON_SCREEN | wxSPLASH_NO_TIMEOUT, 0, nullptr, wxID_ANY);
+    // A click closes the splash by itself.
+    m_splash->Bind(wxEVT_DESTROY, [this](wxWindowDestroyEvent& event) {
+        if (event.GetEventObject() == m_splash) m_splash = nullptr;
+        event.Skip();
+    });
+    wxTheApp->Yield(true);
+}
+
+void evidaFrame::closeSplash() {
+    if (!m_splash) return;
+    wxSplashScreen* splash = m_splash;
+    m_splash = nullptr;
+    splash->Destroy();
+}
+
 void evidaFrame::updateStatusBar() {
-    if (!m_model) return;
-    const Firma& f = m_model->firma();
-    SetStatusText(wxString::Format(wxString::FromUTF8("%s, IČ: %s"), f.nazev(), f.ic()), 0);
+    if (!m_model || !GetStatusBar()) return;
+    const Firma& firma = m_model->firma();
+    SetStatusText(wxString::Format(u8("%s, IČ: %s"), firma.nazev(), firma.ic()), 0);
     SetStatusText(wxString::Format("%d", m_model->currentRok()), 1);
     SetStatusText(wxString::Format("Datum: %s", lxSettings::instance()->datum().Format("%x")), 2);
 }
 
-void evidaFrame::onModelUpdated(wxCommandEvent&) { updateStatusBar(); }
+void evidaFrame::refreshPages(int nav) {
+    if (m_pagesCreated && m_model && m_model->isOpen()) m_book->refresh(nav);
+}
 
-void evidaFrame::onModelMsg(wxCommandEvent& event) {
-    wxMessageBox(event.GetString(), "Informace", wxOK | wxICON_INFORMATION, this);
+void evidaFrame::quit(const wxString& reason) {
+    prompts().info(reason, u8(INFORMACE), this);
+    Close(true);
+}
+
+void evidaFrame::onModelUpdated(wxCommandEvent& event) {
+    refreshPages(event.GetInt());
+    updateStatusBar();
+}
+
+void evidaFrame::onModelMsg(wxCommandEvent& event) { prompts().info(event.GetString(), u8(INFORMACE), this); }
+
+void evidaFrame::onDatum(wxCommandEvent&) {
+    lxSettings* settings = lxSettings::instance();
+    DatumDialog dialog(this, settings->datum());
+    if (dialog.ShowModal() != wxID_OK) return;
+    settings->setDatum(dialog.datum());
+    refreshPages(NAV_ALL);
+    updateStatusBar();
+}
+
+void evidaFrame::onAktualizace(wxCommandEvent&) {
+    wxString available;
+    {
+        wxBusyCursor busy;
+        available = lxutils::availableVersion();
+    }
+    prompts().info(lxutils::updateMessage(available), u8(INFORMACE), this);
+}
+
+void evidaFrame::onHelp(wxCommandEvent&) {
+    if (!m_help->DisplayContents()) prompts().info(u8("Nápověda není nainstalována."), u8(INFORMACE), this);
+}
+
+void evidaFrame::onPreferences(wxCommandEvent&) {
+    {
+        PreferencesDialog dialog(this);
+        m_preferences = &dialog;
+        dialog.ShowModal();
+        m_preferences = nullptr;
+    }
+    // The editor changes the due period of the years and the number series.
+    lxSettings::instance()->setSplatnost(m_model->getSplatnost(m_model->currentRok()));
+    refreshPages(NAV_ALL);
+}
+
+void evidaFrame::onAdresar(wxCommandEvent&) {
+    KontaktyDialog dialog(this);
+    dialog.ShowModal();
+}
+
+void evidaFrame::onUlozenaPriznani(wxCommandEvent&) {
+    const lxUlozeneArray ulozene = m_model->ulozene();
+    if (ulozene.empty()) {
+        prompts().info(u8("Žádná uložená přiznání"), u8(INFORMACE), this);
+        return;
+    }
+    // The filings themselves (preview, export, deletion) come with the tax part of the
+    // program; until then the command lists what is saved.
+    static const char* const druhy[] = {"Přiznání k DPH", "Souhrnné hlášení DPH", "Kontrolní hlášení DPH"};
+    wxArrayString list;
+    for (const auto& u : ulozene) {
+        const wxString druh = u->typ() >= 0 && u->typ() <= 2 ? u8(druhy[u->typ()]) : wxString();
+        list.Add(druh + " – " + u->popis());
+    }
+    prompts().singleChoice(u8("Uložená přiznání:"), u8("Uložená přiznání"), list, 0, this);
+}
+
+void evidaFrame::onQuit(wxCommandEvent&) { Close(); }
+
+void evidaFrame::onClose(wxCloseEvent& event) {
+    lxSettings* settings = lxSettings::instance();
+    if (event.CanVeto() && m_loaded && lxutils::isZalohaDue(settings->lastBackup())) {
+        ZalohaDialog reminder(this, settings->lastBackup());
+        if (reminder.ShowModal() == wxID_OK) zalohovat();
+    }
+    if (auto* preferences = dynamic_cast<wxDialog*>(m_preferences)) {
+        if (preferences->IsModal()) preferences->EndModal(wxID_CANCEL);
+    }
+    Destroy();
 }

@@ -1,6 +1,7 @@
 #include "companysetup.h"
 
 #include "dbmodel.h"
+#include "clock.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 
@@ -20,7 +21,7 @@ bool createPlaceholderCompany(DbModel& model, const wxString& path) {
     // The name is the part before the last "_", the IČ the part after the first one.
     model.setFirma(Firma(key.BeforeLast('_'), key.AfterFirst('_'), empty, empty, false, false, empty, empty, empty,
                          empty, empty, 1));
-    model.addObdobi(Obdobi(wxDateTime::Today().GetYear(), true));
+    model.addObdobi(Obdobi(lxutils::today().GetYear(), true));
     model.fillData();
     return model.firma().isValid();
 }

@@ -9,6 +9,10 @@
 #include <wx/event.h>
 #include <wx/wxsqlite3.h>
 
+#include <memory>
+#include <optional>
+#include <vector>
+
 #include "navigation.h"
 #include "records.h"
 #include "views.h"
@@ -256,6 +260,114 @@ class DbModel {
     static void sortDenikView(lxDenikViewArray& rows, int column, bool ascending);
     static void sortFaPolozky(lxFaPolozkaArray& rows, int column, bool ascending);
     static void sortDphDruh(lxDphDruhArray& rows, int column, bool ascending);
+
+    // --- a contact together with its address (dbmodel_kontakt.cpp) ---
+    // Each writes both rows in one transaction and notifies once. Adding gives both rows new
+    // ids and returns the contact's id (-1 on failure). Editing updates the contact and its
+    // address; a contact without an address of its own (none, or one shared with the company
+    // or another contact) gets a new one. Deleting refuses contact 0 (no
+    // counterparty); documents of a deleted contact fall back to contact 0, and its address
+    // goes with it unless the company or another contact still uses that address.
+    int addKontaktSAdresou(Kontakt kontakt, Adresa adresa);
+    bool editKontaktSAdresou(Kontakt kontakt, Adresa adresa);
+    bool deleteKontaktSAdresou(int id);
+
+    // --- journal, cash and bank (dbmodel_denik.cpp, dbmodel_pokladna.cpp) ---
+    // A write transaction that joins the caller's when one is already open, so that an
+    // operation can run alone or as one step of a larger all-or-nothing write. Without
+    // commit() its own transaction rolls back; a joined one is the caller's to finish.
+    class WriteTransaction {
+       public:
+        explicit WriteTransaction(wxSQLite3Database& db);
+        ~WriteTransaction();
+        WriteTransaction(const WriteTransaction&) = delete;
+        WriteTransaction& operator=(const WriteTransaction&) = delete;
+        void commit();
+
+       private:
+        std::optional<wxSQLite3Transaction> m_tx;
+    };
+
+    // Journal entries of the current year by date: all of them, those of a cash register,
+    // those of a bank account, those of one register or one account.
+    lxDenikArray denik();
+    lxDenikArray denikPokladna();
+    lxDenikArray denikBanka();
+    lxDenikArray denikPokladnaById(int id);
+    lxDenikArray denikBankaById(int id);
+    // Entries of a year whose pre-posting books into a tax-relevant column, in table order.
+    lxDenikArray danovePrijmyVydajeForRok(int rok);
+    // addDenik and editDenik (declared with the families) store a register or account that
+    // does not exist as none; editDenik also sets the amount of the entry's payment rows.
+    // These two do the same without notifying, for writers that store many entries in one
+    // transaction and notify once; updateDenik joins an open transaction.
+    bool insertDenik(const Denik& denik);
+    bool updateDenik(const Denik& denik);
+    // What an entry takes from its pre-posting and its journal column; whether it pays an
+    // invoice or a receivable/liability.
+    bool isDenikUhrada(int id);
+    bool isDenikPrijem(int id);
+    bool isDenikDanovy(int id);
+    int denikSloupecByDenikId(int id);  // -1 for an unknown entry
+    // The latest statement number of a bank account in the current year; 0 when none.
+    int getLastVypis(int bankaid);
+    lxDenikSloupecArray deniksloupcePrijem();
+    lxDenikSloupecArray deniksloupceVydaj();
+
+    // Pre-postings: by direction (ordered by code), lookups by code, what they book into.
+    lxPredkontaceArray predkontacePrijem();
+    lxPredkontaceArray predkontaceVydaj();
+    Predkontace getPredkontace(const wxString& zkratka);
+    bool hasPredkontace(const wxString& zkratka);
+    bool isPredkontacePrijem(int id);
+    bool isPredkontaceDanova(int id);
+    int firstPredkontace();  // the id of the first row, -1 for none
+
+    // Deleting a pre-posting, cash register or bank account is refused while documents use
+    // it, and for registers and accounts also when it is the last one; `duvod` then receives
+    // the message for the user (it stays empty when the row is missing or SQLite fails).
+    bool deletePredkontace(int id, wxString* duvod);
+    bool deletePokladna(int id, wxString* duvod);
+    bool deleteBanka(int id, wxString* duvod);
+
+    // Cash registers and bank accounts by code.
+    Pokladna getPokladna(const wxString& zkratka);
+    bool hasPokladna(const wxString& zkratka);
+    wxString getPokladnaZkratka(int id);
+    Banka getBanka(const wxString& zkratka);
+    bool hasBanka(const wxString& zkratka);
+    wxString getBankaZkratka(int id);
+
+    // Balances. Stav: all years, in the register's own currency (foreign amounts for a
+    // foreign register). Zustatek: the same over the years before the current one, i.e. the
+    // opening balance of the current year. Stav(datum): home amounts of all existing
+    // registers (or accounts) of entries dated before the day, any year.
+    double getPokladnaStav(int id);
+    double getPokladnaZustatek(int id);
+    double getPokladnyStav(const wxDateTime& datum);
+    double getBankaStav(int id);
+    double getBankaZustatek(int id);
+    double getBankyStav(const wxDateTime& datum);
+    // Every register (banka false) and account (banka true) with its all-years balance and
+    // currency code, registers first, each part by code; one pass over the journal.
+    struct StavUctu {
+        bool banka;
+        int id;
+        wxString zkratka;
+        wxString popis;
+        wxString mena;
+        double stav;
+    };
+    std::vector<StavUctu> stavyUctu();
+    // The text of "Stav pokladen a bankovních účtů": "Pokladny:" and "Banky:", each followed
+    // by one line per register or account ("POK1 (Výchozí pokladna): 0.00 CZK").
+    wxString stavUctuAPokladen();
+
+    // Czech bank codes, optionally only the active ones: the codes, the codes each followed
+    // by a space and the bank's name, and the BIC of a code.
+    wxArrayString kodyBank(bool onlyActive);
+    wxArrayString kodyBankSNazvem(bool onlyActive);
+    wxString bicByKod(const wxString& kod);
 
     // --- notifications ---
     void fireUpdated(int page);

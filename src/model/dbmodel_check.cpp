@@ -4,6 +4,7 @@
 // differ is rebuilt with its rows, and references to rows that no longer exist are
 // pointed at a valid row. A repair never removes a user's row.
 #include <map>
+#include <vector>
 
 #include "dbmodel.h"
 #include "referenceschema.h"
@@ -223,35 +224,48 @@ bool DbModel::rebuildTable(const schema::TableDef& table) {
 
 bool DbModel::repairDanglingReferences(const schema::TableDef& table) {
     const wxString name = table.name;
+    // The repairs, each with the rows it applies to. A file in order has no such rows, which
+    // one pass over the table shows; only then does each repair run, one pass each.
+    struct Repair {
+        wxString orphan;
+        wxString sql;
+    };
+    std::vector<Repair> repairs;
+    for (const wxString& key : referenceschema::keys(name)) {
+        const wxArrayString parts = wxSplit(key, '|');
+        const wxString& from = parts[0];
+        const wxString& target = parts[1];
+        const wxString& to = parts[2];
+        const wxString& onDelete = parts[4];
+        const wxString orphan =
+            wxString::Format("%s IS NOT NULL AND %s NOT IN (SELECT %s FROM %s)", from, from, to, target);
+        if (from == "obdobirok") {
+            // Rows of a year whose period row vanished get their period back rather than move.
+            repairs.push_back({orphan, wxString::Format("INSERT INTO obdobi(rok,current) SELECT DISTINCT %s,0 FROM %s "
+                                                        "WHERE %s",
+                                                        from, name, orphan)});
+            continue;
+        }
+        // A row that belongs to a vanished parent is left alone: it is the user's and
+        // there is no right parent to give it.
+        if (onDelete == "CASCADE") continue;
+        const referenceschema::Column* col = findColumn(name, from);
+        if (!col) continue;
+        const wxString value = danglingValue(name, *col);
+        if (value.empty() && col->notNull) continue;
+        // A row already holding the replacement (contact 0 when row 0 itself is gone) is not counted.
+        const wxString already = value.empty() ? wxString() : wxString::Format(" AND %s IS NOT %s", from, value);
+        repairs.push_back({orphan + already, wxString::Format("UPDATE %s SET %s=%s WHERE %s%s", name, from,
+                                                              value.empty() ? wxString("NULL") : value, orphan, already)});
+    }
+    if (repairs.empty()) return true;
+    wxString any;
+    for (const Repair& r : repairs) any += (any.empty() ? "(" : " OR (") + r.orphan + ")";
     int changed = 0;
     try {
+        if (!m_db.ExecuteScalar(wxString::Format("SELECT EXISTS(SELECT 1 FROM %s WHERE %s)", name, any))) return true;
         wxSQLite3Transaction tx(&m_db, WXSQLITE_TRANSACTION_IMMEDIATE);
-        for (const wxString& key : referenceschema::keys(name)) {
-            const wxArrayString parts = wxSplit(key, '|');
-            const wxString& from = parts[0];
-            const wxString& target = parts[1];
-            const wxString& to = parts[2];
-            const wxString& onDelete = parts[4];
-            const wxString orphan =
-                wxString::Format("%s IS NOT NULL AND %s NOT IN (SELECT %s FROM %s)", from, from, to, target);
-            if (from == "obdobirok") {
-                // Rows of a year whose period row vanished get their period back rather than move.
-                changed += m_db.ExecuteUpdate(wxString::Format(
-                    "INSERT INTO obdobi(rok,current) SELECT DISTINCT %s,0 FROM %s WHERE %s", from, name, orphan));
-                continue;
-            }
-            // A row that belongs to a vanished parent is left alone: it is the user's and
-            // there is no right parent to give it.
-            if (onDelete == "CASCADE") continue;
-            const referenceschema::Column* col = findColumn(name, from);
-            if (!col) continue;
-            const wxString value = danglingValue(name, *col);
-            if (value.empty() && col->notNull) continue;
-            // A row already holding the replacement (contact 0 when row 0 itself is gone) is not counted.
-            const wxString already = value.empty() ? wxString() : wxString::Format(" AND %s IS NOT %s", from, value);
-            changed += m_db.ExecuteUpdate(wxString::Format("UPDATE %s SET %s=%s WHERE %s%s", name, from,
-                                                           value.empty() ? wxString("NULL") : value, orphan, already));
-        }
+        for (const Repair& r : repairs) changed += m_db.ExecuteUpdate(r.sql);
         tx.Commit();
     } catch (const wxSQLite3Exception& e) {
         sqllog::error("references of " + name, e);

@@ -114,7 +114,12 @@ void DbModel::setDefaultRadaCislo() {
     try {
         for (const TableSeries& table : YEARLY_SERIES) {
             const size_t first = counters.size();
-            for (int i = 0; i < table.count; ++i) counters.emplace_back(table.series[i].code, 1L);
+            // The codes as wxString once, not once per document.
+            std::vector<wxString> codes;
+            for (int i = 0; i < table.count; ++i) {
+                codes.emplace_back(table.series[i].code);
+                counters.emplace_back(codes.back(), 1L);
+            }
             // The number read last in this table; a document number that does not read keeps it.
             long n = 0;
             sql = wxString::Format("SELECT cislo FROM %s WHERE obdobirok=? ORDER BY rowid", table.table);
@@ -126,7 +131,7 @@ void DbModel::setDefaultRadaCislo() {
                 const wxString cislo = rs.GetAsString(0);
                 for (int i = 0; i < table.count; ++i) {
                     const SeriesCut& s = table.series[i];
-                    if (!cislo.StartsWith(s.code)) continue;
+                    if (!cislo.StartsWith(codes[i])) continue;
                     readDecimal(cislo.Mid(s.cut), &n);
                     long& counter = counters[first + i].second;
                     counter = std::max(counter, n + 1);

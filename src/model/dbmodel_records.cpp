@@ -123,10 +123,19 @@ bool deleteRow(wxSQLite3Database& db, const Key& key) {
 
 EVIDA_DEFINE_FAMILY(Adresa)
 EVIDA_DEFINE_FAMILY(Kontakt)
-EVIDA_DEFINE_FAMILY(Pokladna)
-EVIDA_DEFINE_FAMILY(Banka)
-EVIDA_DEFINE_FAMILY(Predkontace)
-EVIDA_DEFINE_FAMILY(Denik)
+// Deleting registers, accounts and pre-postings and writing journal entries follow their own
+// rules (dbmodel_denik.cpp, dbmodel_pokladna.cpp).
+EVIDA_DEFINE_GET(Pokladna, int)
+EVIDA_DEFINE_ADD(Pokladna)
+EVIDA_DEFINE_EDIT(Pokladna)
+EVIDA_DEFINE_GET(Banka, int)
+EVIDA_DEFINE_ADD(Banka)
+EVIDA_DEFINE_EDIT(Banka)
+EVIDA_DEFINE_GET(Predkontace, int)
+EVIDA_DEFINE_ADD(Predkontace)
+EVIDA_DEFINE_EDIT(Predkontace)
+EVIDA_DEFINE_GET(Denik, int)
+EVIDA_DEFINE_DELETE(Denik, int)
 EVIDA_DEFINE_FAMILY(Faktura)
 EVIDA_DEFINE_FAMILY(ZavPoh)
 EVIDA_DEFINE_FAMILY(FaPolozka)

@@ -5,19 +5,6 @@
 
 namespace {
 
-// Journal entries of a year with the code of their bank account (part 0) or cash register
-// (part 1). The inner join leaves out entries whose account or register no longer exists.
-wxString denikPart(int part, const char* registerTable, const char* registerColumn) {
-    return wxString::Format(
-        "SELECT %d AS part, d.id AS id, d.datum AS datum, d.cislo AS cislo, d.popis AS popis, "
-        "d.castka AS castka, p.prijem AS prijem, r.zkratka AS zkratka, d.vypis AS vypis "
-        "FROM denik d JOIN %s r ON d.%s=r.id LEFT JOIN predkontace p ON d.predkontaceid=p.id "
-        "WHERE d.obdobirok=:rok",
-        part, registerTable, registerColumn);
-}
-
-const char* const DENIK_ORDER = " ORDER BY part, datum, id";
-
 // Invoices or receivables/liabilities of a year with their counterparty and the amount paid
 // so far; `direction` is the condition that picks issued or received ones.
 wxString dokladyView(const char* table, const char* paidBy, const char* extraColumns, const char* direction) {
@@ -33,23 +20,7 @@ wxString dokladyView(const char* table, const char* paidBy, const char* extraCol
 
 }  // namespace
 
-// The bank entries first, then the cash entries, each by date.
-lxDenikViewArray DbModel::denikview() {
-    if (isForeignStorage()) return {};
-    const wxString sql =
-        denikPart(0, "banka", "bankaid") + " UNION ALL " + denikPart(1, "pokladna", "pokladnaid") + DENIK_ORDER;
-    return recordio::query<DenikView>(m_db, sql, currentRok());
-}
-
-lxDenikViewArray DbModel::denikviewPokladna() {
-    if (isForeignStorage()) return {};
-    return recordio::query<DenikView>(m_db, denikPart(1, "pokladna", "pokladnaid") + DENIK_ORDER, currentRok());
-}
-
-lxDenikViewArray DbModel::denikviewBanka() {
-    if (isForeignStorage()) return {};
-    return recordio::query<DenikView>(m_db, denikPart(0, "banka", "bankaid") + DENIK_ORDER, currentRok());
-}
+// The journal's list rows are written with the journal (dbmodel_denik.cpp).
 
 lxFakturaViewArray DbModel::vystaveneview() {
     if (isForeignStorage()) return {};

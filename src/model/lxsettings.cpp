@@ -7,6 +7,7 @@
 
 #include <memory>
 
+#include "clock.h"
 #include "lxutils.h"
 
 const char* const lxSettings::DEFAULT_PERSPECTIVE =
@@ -24,27 +25,48 @@ std::unique_ptr<lxSettings>& holder() {
 // The name part of a company key is everything before the last "_", the IČ what follows it.
 wxString keyName(const wxString& key) { return key.BeforeLast('_'); }
 wxString keyIc(const wxString& key) { return key.AfterLast('_'); }
-} // namespace
+}  // namespace
 
 lxSettings* lxSettings::instance() {
     if (!holder()) holder().reset(new lxSettings());
     return holder().get();
 }
 
-void lxSettings::reset() { holder().reset(); }
+void lxSettings::reset() {
+    // The installed configuration belongs to the file of the settings being forgotten.
+    if (holder() && holder()->m_config && wxConfigBase::Get(false) == holder()->m_config)
+        delete wxConfigBase::Set(nullptr);
+    holder().reset();
+}
 
 lxSettings::lxSettings()
     : m_auiperspective(DEFAULT_PERSPECTIVE),
-      m_datum(wxDateTime::Today()),
-      m_lastBackup(wxDateTime::Today()),
+      m_datum(lxutils::today()),
+      m_lastBackup(lxutils::today()),
       m_backupPath(wxGetHomeDir()) {
     lxutils::dataDir();  // creates the directory when missing
 }
 
 wxString lxSettings::iniPath() const { return lxutils::dataDir() + "/evida.ini"; }
 
+// evida.ini, installed as the process's configuration, so that everything else the program
+// remembers (list column widths, dialog sizes) lands in the same file. The text encoding of
+// the file is detected when it is read.
+wxFileConfig& lxSettings::config() {
+    const wxString path = iniPath();
+    if (!m_config || wxConfigBase::Get(false) != m_config || m_configPath != path) {
+        m_config = new wxFileConfig("APPNAME", "COMPANYNAME", path, path,
+                                    wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE, wxConvAuto());
+        m_configPath = path;
+        delete wxConfigBase::Set(m_config);
+    }
+    return *m_config;
+}
+
 void lxSettings::load() {
-    wxFileConfig cfg("APPNAME", "COMPANYNAME", iniPath(), iniPath(), wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE);
+    // Read afresh: a configuration installed earlier holds what was in the file back then.
+    m_config = nullptr;
+    wxFileConfig& cfg = config();
     m_x = cfg.ReadLong("GUI/x", m_x);
     m_y = cfg.ReadLong("GUI/y", m_y);
     m_w = cfg.ReadLong("GUI/w", m_w);
@@ -72,14 +94,14 @@ void lxSettings::load() {
     if (m_fakturaSablona != "internal" && !wxFileName::FileExists(m_fakturaSablona)) m_fakturaSablona = "internal";
     if (m_zalohaSablona != "internal" && !wxFileName::FileExists(m_zalohaSablona)) m_zalohaSablona = "internal";
 
-    const wxString backup = cfg.Read("Backup/lastBackup", wxDateTime::Today().FormatISODate());
+    const wxString backup = cfg.Read("Backup/lastBackup", lxutils::today().FormatISODate());
     wxDateTime parsed;
-    m_lastBackup = parsed.ParseISODate(backup) ? parsed : wxDateTime::Today();
+    m_lastBackup = parsed.ParseISODate(backup) ? parsed.GetDateOnly() : lxutils::today();
     m_backupPath = cfg.Read("Backup/backupPath", m_backupPath);
 }
 
 void lxSettings::save() {
-    wxFileConfig cfg("APPNAME", "COMPANYNAME", iniPath(), iniPath(), wxCONFIG_USE_LOCAL_FILE | wxCONFIG_USE_GLOBAL_FILE);
+    wxFileConfig& cfg = config();
     cfg.Write("GUI/x", m_x);
     cfg.Write("GUI/y", m_y);
     cfg.Write("GUI/w", m_w);
@@ -103,7 +125,8 @@ void lxSettings::save() {
     }
     cfg.Write("Template/faktura", m_fakturaSablona);
     cfg.Write("Template/zaloha", m_zalohaSablona);
-    cfg.Write("Backup/lastBackup", m_lastBackup.IsValid() ? m_lastBackup.FormatISODate() : wxDateTime::Today().FormatISODate());
+    cfg.Write("Backup/lastBackup",
+              m_lastBackup.IsValid() ? m_lastBackup.FormatISODate() : lxutils::today().FormatISODate());
     cfg.Write("Backup/backupPath", m_backupPath);
     cfg.Flush();
 }
@@ -117,7 +140,8 @@ bool lxSettings::firmaExists(const wxString& key) const {
 
 wxArrayString lxSettings::firmy() const {
     wxArrayString list;
-    for (const auto& entry : m_dbmap) list.Add(wxString::Format(wxString::FromUTF8("%s, IČ: %s"), keyName(entry.second), keyIc(entry.second)));
+    for (const auto& entry : m_dbmap)
+        list.Add(wxString::Format(wxString::FromUTF8("%s, IČ: %s"), keyName(entry.second), keyIc(entry.second)));
     return list;
 }
 

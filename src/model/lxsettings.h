@@ -3,16 +3,18 @@
 // values that live for one run only: the application date and the default due period.
 #pragma once
 
+#include <wx/arrstr.h>
 #include <wx/datetime.h>
 #include <wx/string.h>
-#include <wx/arrstr.h>
 
 #include <map>
+
+class wxFileConfig;
 
 enum DBMODEL { DBMODEL_SQLITE = 0 };
 
 class lxSettings {
-   public:
+ public:
     static lxSettings* instance();
     // Forgets the singleton (tests that point HOME elsewhere start again from defaults).
     static void reset();
@@ -64,9 +66,13 @@ class lxSettings {
 
     static const char* const DEFAULT_PERSPECTIVE;
 
-   private:
+ private:
     lxSettings();
     wxString iniPath() const;
+    wxFileConfig& config();
+
+    wxFileConfig* m_config = nullptr;  // owned by wxConfigBase once installed
+    wxString m_configPath;
 
     int m_x = 50, m_y = 50, m_w = 888, m_h = 666;
     bool m_maximized = false;

@@ -5,6 +5,8 @@
 
 #include <wx/wxsqlite3.h>
 
+#include <unordered_map>
+
 #include "record.h"
 #include "sqllog.h"
 
@@ -29,12 +31,59 @@ inline void readField(wxSQLite3ResultSet& rs, const char* column, wxString& valu
     value = rs.IsNull(column) ? wxString() : rs.GetAsString(column);
 }
 // Dates are ISO text; a date with a time of day is "YYYY-MM-DD HH:MM:SS".
-inline void readField(wxSQLite3ResultSet& rs, const char* column, wxDateTime& value) {
-    value = wxDateTime();
-    if (rs.IsNull(column)) return;
-    const wxString text = rs.GetAsString(column);
+inline wxDateTime parseDateText(const wxString& text) {
+    wxDateTime value;
+    // A plain date (the common case) cannot be a combined one. Lists read thousands of rows
+    // over a few hundred days, and turning a day into a time is slow (the C library looks at
+    // the time zone file every time), so each day is converted once and remembered. The model
+    // runs on one thread only.
+    if (text.length() == 10) {
+        static std::unordered_map<int, wxDateTime> days;
+        int key = 0;
+        for (size_t i = 0; i < 10 && key >= 0; ++i) {
+            const wxUniChar c = text[i];
+            if (i == 4 || i == 7) {
+                if (c != '-') key = -1;
+            } else if (c >= '0' && c <= '9') {
+                key = key * 10 + static_cast<int>(c.GetValue() - '0');
+            } else {
+                key = -1;
+            }
+        }
+        if (key >= 0) {
+            const auto found = days.find(key);
+            if (found != days.end()) return found->second;
+        }
+        if (!value.ParseISODate(text)) value = wxDateTime();
+        if (key >= 0) {
+            if (days.size() > 100000) days.clear();
+            days.emplace(key, value);
+        }
+        return value;
+    }
     if (!value.ParseISOCombined(text, ' ') && !value.ParseISOCombined(text, 'T') && !value.ParseISODate(text))
         value = wxDateTime();
+    return value;
+}
+inline void readField(wxSQLite3ResultSet& rs, const char* column, wxDateTime& value) {
+    value = rs.IsNull(column) ? wxDateTime() : parseDateText(rs.GetAsString(column));
+}
+
+// The same by the column's position in the result, for reading many rows of one query.
+inline void readFieldAt(wxSQLite3ResultSet& rs, int index, bool reference, int& value) {
+    value = rs.IsNull(index) ? (reference ? -1 : 0) : rs.GetInt(index);
+}
+inline void readFieldAt(wxSQLite3ResultSet& rs, int index, bool, double& value) {
+    value = rs.IsNull(index) ? 0.0 : rs.GetDouble(index);
+}
+inline void readFieldAt(wxSQLite3ResultSet& rs, int index, bool, bool& value) {
+    value = !rs.IsNull(index) && rs.GetInt(index) != 0;
+}
+inline void readFieldAt(wxSQLite3ResultSet& rs, int index, bool, wxString& value) {
+    value = rs.IsNull(index) ? wxString() : rs.GetAsString(index);
+}
+inline void readFieldAt(wxSQLite3ResultSet& rs, int index, bool, wxDateTime& value) {
+    value = rs.IsNull(index) ? wxDateTime() : parseDateText(rs.GetAsString(index));
 }
 
 inline void bindField(wxSQLite3Statement& st, int index, const char* column, int value) {
@@ -76,6 +125,40 @@ template <class Record>
 Record read(wxSQLite3ResultSet& rs) {
     Record r;
     r.visit([&rs](const char* column, auto& field) { readField(rs, column, field); });
+    r.setValid(true);
+    return r;
+}
+
+// Where each field of the record is in a result: its column index (-1 when the result lacks
+// it) and whether it is a reference. Found once per query instead of once per row and field.
+struct FieldColumn {
+    int index;
+    bool reference;
+};
+template <class Record>
+std::vector<FieldColumn> fieldColumns(wxSQLite3ResultSet& rs) {
+    std::vector<wxString> names;
+    for (int i = 0; i < rs.GetColumnCount(); ++i) names.push_back(rs.GetColumnName(i));
+    std::vector<FieldColumn> columns;
+    Record().visit([&](const char* column, const auto&) {
+        const wxString name(column);
+        int index = -1;
+        for (size_t i = 0; i < names.size() && index < 0; ++i) {
+            if (names[i] == name) index = static_cast<int>(i);
+        }
+        columns.push_back(FieldColumn{index, isReference(column)});
+    });
+    return columns;
+}
+
+template <class Record>
+Record readAt(wxSQLite3ResultSet& rs, const std::vector<FieldColumn>& columns) {
+    Record r;
+    size_t i = 0;
+    r.visit([&](const char*, auto& field) {
+        const FieldColumn& c = columns[i++];
+        readFieldAt(rs, c.index, c.reference, field);
+    });
     r.setValid(true);
     return r;
 }
@@ -153,7 +236,13 @@ std::vector<std::unique_ptr<Record>> query(wxSQLite3Database& db, const wxString
         wxSQLite3Statement st = db.PrepareStatement(sql);
         bindValues(st, args...);
         wxSQLite3ResultSet rs = st.ExecuteQuery();
-        while (rs.NextRow()) rows.push_back(std::make_unique<Record>(read<Record>(rs)));
+        const std::vector<FieldColumn> columns = fieldColumns<Record>(rs);
+        bool complete = true;
+        for (const FieldColumn& c : columns) complete = complete && c.index >= 0;
+        while (rs.NextRow()) {
+            // A result without some field's column is read by name, which reports the column.
+            rows.push_back(std::make_unique<Record>(complete ? readAt<Record>(rs, columns) : read<Record>(rs)));
+        }
     } catch (const wxSQLite3Exception& e) {
         sqllog::error(sql, e);
     }

@@ -1,18 +1,18 @@
-// The print tests measure text on the screen and draw through real device contexts, so they
-// run inside a wxApp with a display (CI uses xvfb-run).
+// The main of every GUI test executable (print, shell, book pages): the tests build real
+// windows and measure text, so they run inside a wxApp with a display (CI uses xvfb-run -a).
 #include <gtest/gtest.h>
 #include <wx/app.h>
 #include <wx/image.h>
 #include <wx/log.h>
 
-#include "../guiapp.h"
+#include "guiapp.h"
 
-class PrintTestApp : public wxApp {
- public:
+class GuiTestApp : public wxApp {
+   public:
     bool OnInit() override { return true; }
 };
 
-wxIMPLEMENT_APP_NO_MAIN(PrintTestApp);
+wxIMPLEMENT_APP_NO_MAIN(GuiTestApp);
 
 int main(int argc, char** argv) {
     ::testing::InitGoogleTest(&argc, argv);
@@ -21,7 +21,7 @@ int main(int argc, char** argv) {
     if (!startGuiApp(argc, argv)) return 1;
     wxTheApp->SetAppName("evida");
     wxInitAllImageHandlers();
-    // Errors go to stderr instead of message boxes.
+    // Warnings go to stderr instead of message boxes that nobody would close.
     wxLog::SetActiveTarget(new wxLogStderr());
     const int result = RUN_ALL_TESTS();
     wxTheApp->OnExit();

@@ -1,0 +1,119 @@
+#include "bookpages.h"
+
+#include "bookshapes.h"
+#include "lxbookpage.h"
+#include "prompts.h"
+
+namespace bookpages {
+
+namespace {
+
+wxString u8(const char* text) { return wxString::FromUTF8(text); }
+
+template <class Row>
+lxBookPage* page(wxWindow* parent, int nav, lxPageShape<Row> shape) {
+    return new lxBookPage(parent, nav, title(nav), std::make_unique<lxTableModel<Row>>(std::move(shape)));
+}
+
+DbModel* openModel() {
+    DbModel* model = DbModel::instance();
+    return model && model->isOpen() ? model : nullptr;
+}
+
+// Deleting a journal entry needs no dialog. A payment's entry takes its payment rows with it
+// (the database cascades), and the paid document becomes unpaid again.
+void deleteDenik(lxBookPage* page, int id) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const Denik denik = model->getDenik(id);
+    if (!denik.isValid()) return;
+    if (!prompts().question(wxString::Format(u8("Opravdu smazat záznam\n%s\n%s?"), denik.cislo(), denik.popis()),
+                            wxString(), page))
+        return;
+    model->deleteDenik(id);
+}
+
+void deleteJizda(lxBookPage* page, int id) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const Jizda jizda = model->getJizda(id);
+    if (!jizda.isValid()) return;
+    if (!prompts().question(wxString::Format(u8("Opravdu smazat jízdu\n%s\n%s?"),
+                                             bookshapes::formatDatum(jizda.startcas(), true), jizda.cesta()),
+                            wxString(), page))
+        return;
+    model->deleteJizda(id);
+}
+
+}  // namespace
+
+const std::vector<int>& navigations() {
+    static const std::vector<int> codes = {NAV_DENIK,           NAV_POKLADNA,   NAV_BANKA,   NAV_FAKTURY_VYDANE,
+                                           NAV_FAKTURY_PRIJATE, NAV_POHLEDAVKY, NAV_ZAVAZKY, NAV_MAJETEK,
+                                           NAV_ZASOBY,          NAV_JIZDY};
+    return codes;
+}
+
+wxString title(int nav) {
+    switch (nav) {
+        case NAV_HOME:
+            return u8("Úvod");
+        case NAV_DENIK:
+            return u8("Pěněžní deník");
+        case NAV_POKLADNA:
+            return u8("Pokladna");
+        case NAV_BANKA:
+            return u8("Banka");
+        case NAV_FAKTURY_VYDANE:
+            return u8("Faktury vydané");
+        case NAV_FAKTURY_PRIJATE:
+            return u8("Faktury přijaté");
+        case NAV_POHLEDAVKY:
+            return u8("Pohledávky");
+        case NAV_ZAVAZKY:
+            return u8("Závazky");
+        case NAV_MAJETEK:
+            return u8("Kniha majetku");
+        case NAV_ZASOBY:
+            return u8("Kniha zásob");
+        case NAV_JIZDY:
+            return u8("Kniha jízd");
+        default:
+            return wxString();
+    }
+}
+
+lxBookPage* create(wxWindow* parent, int nav) {
+    lxBookPage* created = nullptr;
+    switch (nav) {
+        case NAV_DENIK:
+        case NAV_POKLADNA:
+        case NAV_BANKA:
+            created = page(parent, nav, bookshapes::denik(nav));
+            created->setAction(BOOK_DELETE, [created](int id) { deleteDenik(created, id); });
+            break;
+        case NAV_FAKTURY_VYDANE:
+        case NAV_FAKTURY_PRIJATE:
+            created = page(parent, nav, bookshapes::faktury(nav == NAV_FAKTURY_VYDANE));
+            break;
+        case NAV_POHLEDAVKY:
+        case NAV_ZAVAZKY:
+            created = page(parent, nav, bookshapes::zavpoh(nav == NAV_ZAVAZKY));
+            break;
+        case NAV_MAJETEK:
+            created = page(parent, nav, bookshapes::majetek());
+            break;
+        case NAV_ZASOBY:
+            created = page(parent, nav, bookshapes::zasoby());
+            break;
+        case NAV_JIZDY:
+            created = page(parent, nav, bookshapes::jizdy());
+            created->setAction(BOOK_DELETE, [created](int id) { deleteJizda(created, id); });
+            break;
+        default:
+            break;
+    }
+    return created;
+}
+
+}  // namespace bookpages

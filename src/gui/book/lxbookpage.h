@@ -1,0 +1,77 @@
+// lxBookPage: one page of the book: a toolbar, the virtual list of the page's rows and a
+// footer with the totals of the shown rows. The toolbar and the list's context menu offer
+// add, edit, copy, delete, print, CSV export and the filter. Add, edit, copy and delete run
+// the handlers given to the page; one without a handler stays visibly disabled.
+#pragma once
+
+#include <wx/panel.h>
+
+#include <array>
+#include <functional>
+#include <memory>
+
+#include "lxrowmodel.h"
+
+class lxListCtrl;
+class wxStaticText;
+class wxToolBar;
+class wxMenu;
+class wxListEvent;
+class Table;
+
+enum lxBookAction { BOOK_ADD = 0, BOOK_EDIT, BOOK_COPY, BOOK_DELETE, BOOK_ACTIONS };
+
+class lxBookPage : public wxPanel {
+ public:
+    // Receives the record id of the selected row (-1 for add).
+    using Action = std::function<void(int id)>;
+
+    lxBookPage(wxWindow* parent, int navigation, const wxString& title, std::unique_ptr<lxRowModel> rows);
+    ~lxBookPage() override;
+
+    int navigation() const { return m_navigation; }
+    const wxString& title() const { return m_title; }
+    lxRowModel& rows() const { return *m_rows; }
+    lxListCtrl* list() const { return m_list; }
+
+    // Reloads the rows from the database now.
+    void refresh();
+    // Marks the rows as out of date; the book reloads them when it shows the page.
+    void markStale() { m_stale = true; }
+    bool isStale() const { return m_stale; }
+
+    void setAction(lxBookAction action, Action handler);
+    // Whether an action can run now: it has a handler and, except add, a row is selected.
+    bool canRun(lxBookAction action) const;
+    // Runs an action on the selected row; false when it cannot run.
+    bool run(lxBookAction action);
+
+    // Shows the filter dialog, or applies a filter directly.
+    void editFilter();
+    void setFilter(const lxFilter& filter);
+    wxString footerText() const;
+
+    // Asks for a file and writes the shown rows into it as CSV.
+    void exportCsv();
+    bool exportCsv(const wxString& path, wxString* error = nullptr);
+    // The shown rows as a print table, and its preview.
+    Table printTable() const;
+    void print();
+
+ private:
+    void onCommand(wxCommandEvent& event);
+    void onContextMenu(wxContextMenuEvent& event);
+    void onKey(wxListEvent& event);
+    void updateTools();
+    void enableCommands(const std::function<void(int id, bool enable)>& enable) const;
+    wxMenu* createMenu() const;
+
+    int m_navigation;
+    wxString m_title;
+    std::unique_ptr<lxRowModel> m_rows;
+    std::array<Action, BOOK_ACTIONS> m_actions;
+    bool m_stale = true;
+    wxToolBar* m_toolbar = nullptr;
+    lxListCtrl* m_list = nullptr;
+    wxStaticText* m_footer = nullptr;
+};

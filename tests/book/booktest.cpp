@@ -1,0 +1,73 @@
+#include "booktest.h"
+
+#include <wx/app.h>
+#include <wx/filename.h>
+#include <wx/utils.h>
+
+#include <cstdlib>
+
+#include "book/lxbook.h"
+#include "book/lxlistctrl.h"
+#include "companysetup.h"
+#include "lxsettings.h"
+#include "lxutils.h"
+
+wxDateTime iso(const char* text) {
+    wxDateTime d;
+    d.ParseISODate(text);
+    return d;
+}
+
+void BookTest::SetUp() {
+    char tmpl[] = "/tmp/evida-book-XXXXXX";
+    ASSERT_NE(mkdtemp(tmpl), nullptr);
+    m_home = wxString::FromUTF8(tmpl);
+    wxSetEnv("HOME", m_home);
+    lxSettings::reset();
+    lxSettings::instance()->setDatum(iso("2024-06-01"));
+    setPrompts(&m_prompts);
+
+    m_frame = new wxFrame(nullptr, wxID_ANY, "Evida");
+    m_book = new lxBook(m_frame);
+    m_frame->Bind(MODEL_UPDATED, [this](wxCommandEvent& e) { m_book->refresh(e.GetInt()); });
+    m_model = std::make_unique<DbModel>(m_frame);
+    m_model->initModel();
+    ASSERT_TRUE(companysetup::createPlaceholderCompany(*m_model, lxutils::dataDir() + "/firma.db"));
+    ASSERT_TRUE(m_model->setCurrentRok(2024));
+}
+
+void BookTest::TearDown() {
+    m_model.reset();
+    m_frame->Destroy();
+    wxTheApp->ProcessIdle();  // deletes the frame
+    setPrompts(nullptr);
+    lxSettings::reset();
+    wxFileName::Rmdir(m_home, wxPATH_RMDIR_RECURSIVE);
+}
+
+int BookTest::denik(const char* predkontace, double castka, const char* datum, const char* popis, bool banka) {
+    const int id = m_model->getLastId("denik");
+    EXPECT_TRUE(m_model->addDenik(Denik(id, iso(datum), wxString::Format("D%03d", id), u8(popis), castka, 0, 1, "", 0,
+                                        1, m_model->getPredkontaceIdByZkratka(predkontace), banka ? -1 : 1,
+                                        banka ? 1 : -1, banka ? 7 : 0, 0, 2024)));
+    return id;
+}
+
+int BookTest::kontakt(const char* nazev, const char* misto) {
+    return m_model->addKontaktSAdresou(Kontakt(-1, u8(nazev), "", "", "", "", true, -1),
+                                       Adresa(-1, "", "", u8(misto), "", ""));
+}
+
+int BookTest::faktura(bool vydana, double celkem, const char* splatnost, int kontaktId) {
+    const int id = m_model->getLastId("faktura");
+    EXPECT_TRUE(m_model->addFaktura(Faktura(id, kontaktId, "", celkem, wxString::Format("FV%04d", id), "", "", "", 1, 1,
+                                            1, -1, 1, 1, 2024, vydana, false, iso("2024-01-10"), wxDateTime(),
+                                            wxDateTime(), iso(splatnost), -1, 1, 0)));
+    return id;
+}
+
+wxArrayString BookTest::column(const lxListCtrl* list, int column) {
+    wxArrayString texts;
+    for (long i = 0; i < list->GetItemCount(); ++i) texts.Add(list->GetItemText(i, column));
+    return texts;
+}

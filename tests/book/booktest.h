@@ -1,0 +1,37 @@
+// Fixture of the book tests: a private HOME with a new company for the year 2024, the model
+// sending its changes to a frame that refreshes the book as the main window does, and
+// scripted prompts. Builders add rows through the model.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <wx/frame.h>
+
+#include <memory>
+
+#include "dbmodel.h"
+#include "prompts.h"
+
+class lxBook;
+class lxListCtrl;
+
+inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
+wxDateTime iso(const char* text);
+
+class BookTest : public ::testing::Test {
+ protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // A journal entry of cash register 1, or of bank account 1 when `banka`.
+    int denik(const char* predkontace, double castka, const char* datum, const char* popis, bool banka = false);
+    int kontakt(const char* nazev, const char* misto = "");
+    int faktura(bool vydana, double celkem, const char* splatnost, int kontaktId = 0);
+    // The texts of one column of a list, top to bottom.
+    static wxArrayString column(const lxListCtrl* list, int column);
+
+    wxString m_home;
+    wxFrame* m_frame = nullptr;  // receives the model's changes
+    lxBook* m_book = nullptr;
+    std::unique_ptr<DbModel> m_model;
+    ScriptedPrompts m_prompts;
+};

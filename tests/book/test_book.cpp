@@ -1,0 +1,146 @@
+// The book: its pages by navigation code, refreshing after model changes, the actions a page
+// offers, the state shown for invoices, and the home page.
+#include <gmock/gmock.h>
+
+#include "book/bookpages.h"
+#include "book/homepage.h"
+#include "book/lxbook.h"
+#include "book/lxbookpage.h"
+#include "book/lxlistctrl.h"
+#include "booktest.h"
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+
+TEST_F(BookTest, BookHasAPagePerLeafAndTheVehicleLogOnlyWhenAsked) {
+    m_book->createPages();
+    EXPECT_EQ(m_book->currentNavigation(), NAV_HOME);
+    EXPECT_NE(m_book->homePage(), nullptr);
+    for (int nav : bookpages::navigations()) {
+        if (nav == NAV_JIZDY) continue;
+        ASSERT_NE(m_book->page(nav), nullptr) << nav;
+        EXPECT_EQ(m_book->page(nav)->title(), bookpages::title(nav));
+    }
+    EXPECT_EQ(m_book->page(NAV_DENIK)->title(), u8("Pěněžní deník"));
+    EXPECT_EQ(m_book->page(NAV_JIZDY), nullptr);
+
+    m_book->setJizdyVisible(true);
+    ASSERT_NE(m_book->page(NAV_JIZDY), nullptr);
+    m_book->selectPage(NAV_JIZDY);
+    EXPECT_EQ(m_book->currentNavigation(), NAV_JIZDY);
+    m_book->setJizdyVisible(false);
+    EXPECT_EQ(m_book->page(NAV_JIZDY), nullptr);
+    EXPECT_EQ(m_book->currentNavigation(), NAV_HOME);
+    // A rebuilt book follows the last choice.
+    m_book->setJizdyVisible(true);
+    m_book->createPages();
+    EXPECT_NE(m_book->page(NAV_JIZDY), nullptr);
+}
+
+TEST_F(BookTest, ChangeReloadsTheShownPageAtOnceAndTheOthersWhenShown) {
+    m_book->createPages();
+    m_book->selectPage(NAV_FAKTURY_VYDANE);
+    m_book->selectPage(NAV_POKLADNA);
+    denik("P001", 100, "2024-03-01", "Prodej");
+
+    // A cash entry is named as a journal change; the cash page on screen follows at once.
+    EXPECT_EQ(m_book->page(NAV_POKLADNA)->list()->GetItemCount(), 1);
+    lxBookPage* journal = m_book->page(NAV_DENIK);
+    EXPECT_TRUE(journal->isStale());
+    EXPECT_EQ(journal->list()->GetItemCount(), 0);
+    EXPECT_FALSE(m_book->page(NAV_FAKTURY_VYDANE)->isStale());
+    m_book->selectPage(NAV_DENIK);
+    EXPECT_EQ(journal->list()->GetItemCount(), 1);
+    EXPECT_FALSE(journal->isStale());
+}
+
+TEST_F(BookTest, ActionsWithoutTheirDialogStayDisabled) {
+    faktura(true, 100, "2024-02-01");
+    denik("P001", 100, "2024-03-01", "Prodej");
+    m_book->createPages();
+    for (int nav : {NAV_FAKTURY_VYDANE, NAV_DENIK}) {
+        m_book->selectPage(nav);
+        lxBookPage* page = m_book->page(nav);
+        page->list()->selectId(1);
+        ASSERT_EQ(page->list()->selectedId(), 1);
+        for (lxBookAction a : {BOOK_ADD, BOOK_EDIT, BOOK_COPY}) EXPECT_FALSE(page->canRun(a)) << nav << " " << a;
+        EXPECT_FALSE(page->run(BOOK_ADD));
+    }
+    EXPECT_FALSE(m_book->page(NAV_FAKTURY_VYDANE)->canRun(BOOK_DELETE));
+    EXPECT_TRUE(m_book->page(NAV_DENIK)->canRun(BOOK_DELETE));
+
+    // A dialog of a later part of the program attaches itself.
+    int edited = 0;
+    m_book->page(NAV_DENIK)->setAction(BOOK_EDIT, [&edited](int id) { edited = id; });
+    EXPECT_TRUE(m_book->page(NAV_DENIK)->run(BOOK_EDIT));
+    EXPECT_EQ(edited, 1);
+}
+
+TEST_F(BookTest, DeletingAJournalEntryAsksFirst) {
+    denik("P001", 100, "2024-03-01", "Prodej");
+    m_book->createPages();
+    m_book->selectPage(NAV_DENIK);
+    lxBookPage* page = m_book->page(NAV_DENIK);
+    page->list()->selectId(1);
+
+    m_prompts.answerQuestion(false);
+    EXPECT_TRUE(page->run(BOOK_DELETE));
+    EXPECT_EQ(m_prompts.transcript(), u8("Opravdu smazat záznam\nD001\nProdej?\n"));
+    EXPECT_EQ(m_prompts.shown().back().caption, "Dotaz");
+    EXPECT_EQ(page->list()->GetItemCount(), 1);
+
+    m_prompts.answerQuestion(true);
+    EXPECT_TRUE(page->run(BOOK_DELETE));
+    EXPECT_FALSE(m_model->hasDenik(1));
+    EXPECT_EQ(page->list()->GetItemCount(), 0);
+    EXPECT_EQ(page->footerText(), u8("Žádné záznamy"));
+}
+
+TEST_F(BookTest, InvoicePageShowsCounterpartyAndPaymentState) {
+    const int alfa = kontakt("Alfa");
+    faktura(true, 100, "2024-07-01", alfa);  // not due yet on 1 June
+    faktura(true, 200, "2024-05-01");        // overdue
+    const int paid = faktura(true, 300, "2024-05-01");
+    const int entry = denik("P002", 300, "2024-04-01", "Platba");
+    ASSERT_TRUE(m_model->addUhrada(Uhrada(m_model->getLastId("uhrada"), 300, entry, paid, -1, 2024)));
+    faktura(false, 50, "2024-05-01");  // a received one belongs to the other page
+
+    m_book->createPages();
+    m_book->selectPage(NAV_FAKTURY_VYDANE);
+    lxBookPage* page = m_book->page(NAV_FAKTURY_VYDANE);
+    const lxListCtrl* list = page->list();
+    ASSERT_EQ(list->GetItemCount(), 3);
+    EXPECT_EQ(list->GetItemText(0, 2), "Alfa");
+    const wxArrayString stav = column(list, 8);
+    EXPECT_THAT(std::vector<wxString>(stav.begin(), stav.end()),
+                ElementsAre("Neuhrazeno", "Po splatnosti", "Uhrazeno"));
+    EXPECT_EQ(page->footerText(), u8("Dokladů: 3    Neuhrazených: 2    Po splatnosti: 1"));
+    lxFilter overdue;
+    overdue.choice = 3;
+    page->setFilter(overdue);
+    EXPECT_EQ(list->GetItemCount(), 1);
+}
+
+TEST_F(BookTest, HomePageShowsCompanyPeriodAndTheSixSummaries) {
+    denik("P001", 1000, "2024-03-01", "Prodej");
+    denik("V101", 400, "2024-03-02", "Auto");
+    faktura(true, 250, "2024-05-01");
+    Firma firma = m_model->firma();
+    firma.setNazev("Alfa & <Beta>");
+    ASSERT_TRUE(m_model->setFirma(firma));
+    m_book->createPages();
+
+    const std::string text = m_book->homePage()->ToText().utf8_string();
+    EXPECT_THAT(text, HasSubstr("Alfa & <Beta>"));
+    EXPECT_THAT(text, HasSubstr("2024"));
+    for (const char* part : {"Příjmy:", "Výdaje:", "Vydané faktury:", "Přijaté faktury:", "Pohledávky:", "Závazky:"})
+        EXPECT_THAT(text, HasSubstr(part));
+    EXPECT_THAT(text, HasSubstr("Daňové: 1000.00 Kč"));
+    EXPECT_THAT(text, HasSubstr("Celkem: 400.00 Kč"));
+    EXPECT_THAT(text, HasSubstr("Neuhrazené: 1"));
+
+    // Every change refreshes the summaries.
+    denik("P001", 500, "2024-03-03", "Prodej");
+    EXPECT_THAT(m_book->homePage()->ToText().utf8_string(), HasSubstr("Daňové: 1500.00 Kč"));
+    EXPECT_THAT(HomePage::html(nullptr).utf8_string(), HasSubstr("Není otevřena žádná firma"));
+}

@@ -1,0 +1,181 @@
+// The shared dialogs: the address book "Adresář" with its contact form, and the preferences
+// with the due days and the number series.
+#include <gmock/gmock.h>
+#include <wx/spinctrl.h>
+#include <wx/textctrl.h>
+
+#include "KontaktDialog.h"
+#include "KontaktyDialog.h"
+#include "PreferencesDialog.h"
+#include "RadaDialog.h"
+#include "RadyPanel.h"
+#include "book/lxlistctrl.h"
+#include "booktest.h"
+#include "lxsettings.h"
+
+using ::testing::ElementsAre;
+
+namespace {
+
+template <class Control>
+Control* child(wxWindow* parent, const char* name) {
+    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, parent));
+    EXPECT_NE(control, nullptr) << name;
+    return control;
+}
+
+// Types a number into a spinner as the user would: the control tells its parent.
+void spin(wxSpinCtrl* control, int value) {
+    control->SetValue(value);
+    wxSpinEvent event(wxEVT_SPINCTRL, control->GetId());
+    event.SetEventObject(control);
+    event.SetPosition(value);
+    control->GetEventHandler()->ProcessEvent(event);
+}
+
+std::vector<wxString> names(const lxListCtrl* list) {
+    std::vector<wxString> all;
+    for (long i = 0; i < list->GetItemCount(); ++i) all.push_back(list->GetItemText(i, 0));
+    return all;
+}
+
+}  // namespace
+
+using Adresar = BookTest;
+
+TEST_F(Adresar, ContactNeedsANameAndIsStoredWithItsAddress) {
+    const int adresy = m_model->tableRows("adresa");
+    KontaktDialog form(m_frame);
+    child<wxTextCtrl>(&form, "nazev")->ChangeValue("   ");
+    child<wxTextCtrl>(&form, "misto")->ChangeValue("Brno");
+    EXPECT_FALSE(form.save());
+    EXPECT_EQ(m_prompts.transcript(), u8("Název nemůže být prázdný\n"));
+    EXPECT_EQ(m_model->tableRows("adresa"), adresy);
+
+    child<wxTextCtrl>(&form, "nazev")->ChangeValue("O'Brien \"Alfa\"");
+    child<wxTextCtrl>(&form, "ic")->ChangeValue("12345678");
+    ASSERT_TRUE(form.save());
+    const Kontakt stored = m_model->getKontakt(form.kontaktId());
+    EXPECT_EQ(stored.nazev(), "O'Brien \"Alfa\"");
+    EXPECT_EQ(stored.ic(), "12345678");
+    EXPECT_EQ(m_model->getAdresa(stored.adresaid()).misto(), "Brno");
+
+    // Editing changes the same address.
+    KontaktDialog edit(m_frame, stored.id());
+    EXPECT_EQ(child<wxTextCtrl>(&edit, "misto")->GetValue(), "Brno");
+    child<wxTextCtrl>(&edit, "misto")->ChangeValue("Praha");
+    ASSERT_TRUE(edit.save());
+    EXPECT_EQ(m_model->getAdresa(stored.adresaid()).misto(), "Praha");
+    EXPECT_EQ(m_model->tableRows("adresa"), adresy + 1);
+}
+
+TEST_F(Adresar, ListCopiesAndDeletesAfterAQuestion) {
+    kontakt("beta", "Ostrava");
+    const int alfa = kontakt("Alfa", "Brno");
+    KontaktyDialog adresar(m_frame);
+    lxListCtrl* list = adresar.list();
+    // Contact 0, "no counterparty", is not an entry of the book.
+    EXPECT_THAT(names(list), ElementsAre("Alfa", "beta"));
+    EXPECT_EQ(list->GetItemText(0, 4), "Brno");
+
+    list->selectId(alfa);
+    adresar.copyKontakt();
+    EXPECT_THAT(names(list), ElementsAre("Alfa", "Alfa (1)", "beta"));
+    const int copy = list->selectedId();
+    EXPECT_NE(copy, alfa);
+    EXPECT_EQ(m_model->getAdresa(m_model->getKontakt(copy).adresaid()).misto(), "Brno");
+
+    m_prompts.answerQuestion(false);
+    adresar.deleteKontakt();
+    EXPECT_EQ(m_prompts.transcript(), u8("Opravdu smazat kontakt Alfa (1)?\n"));
+    EXPECT_EQ(list->GetItemCount(), 3);
+    m_prompts.answerQuestion(true);
+    adresar.deleteKontakt();
+    EXPECT_THAT(names(list), ElementsAre("Alfa", "beta"));
+    EXPECT_FALSE(m_model->hasKontakt(copy));
+}
+
+TEST_F(Adresar, DeletedContactLeavesItsDocumentsWithoutCounterparty) {
+    const int alfa = kontakt("Alfa");
+    const int fa = faktura(true, 100, "2024-07-01", alfa);
+    KontaktyDialog adresar(m_frame);
+    adresar.list()->selectId(alfa);
+    m_prompts.answerQuestion(true);
+    adresar.deleteKontakt();
+    EXPECT_FALSE(m_model->hasKontakt(alfa));
+    EXPECT_EQ(m_model->getFaktura(fa).protistranaid(), 0);
+    EXPECT_EQ(adresar.list()->GetItemCount(), 0);
+}
+
+TEST_F(Adresar, ChooserReturnsTheSelectedContact) {
+    kontakt("Alfa");
+    const int beta = kontakt("Beta");
+    KontaktyDialog chooser(m_frame, true);
+    EXPECT_EQ(chooser.selectedKontaktId(), -1);
+    chooser.list()->selectId(beta);
+    chooser.chooseKontakt();
+    EXPECT_EQ(chooser.selectedKontaktId(), beta);
+}
+
+struct BoundsCase {
+    const char* name;
+    const char* prefix;
+    int cislo;
+    int min;
+};
+
+const std::string LONG_PREFIX(98, 'P');
+
+class RadaBounds : public BookTest, public ::testing::WithParamInterface<BoundsCase> {};
+
+TEST_P(RadaBounds, WidthFollowsPrefixAndNumber) {
+    const BoundsCase c = GetParam();
+    EXPECT_EQ(RadaDialog::minZnaku(u8(c.prefix), c.cislo), c.min);
+
+    RadaDialog dialog(m_frame, m_model->getRada("PP"));
+    auto* znaku = child<wxSpinCtrl>(&dialog, "znaku");
+    spin(child<wxSpinCtrl>(&dialog, "cislo"), c.cislo);
+    child<wxTextCtrl>(&dialog, "prefix")->SetValue(u8(c.prefix));  // sends its change like typing
+    EXPECT_EQ(znaku->GetMin(), c.min);
+    EXPECT_EQ(znaku->GetMax(), 100);
+    EXPECT_EQ(znaku->GetValue(), std::max(6, c.min));
+}
+
+INSTANTIATE_TEST_SUITE_P(Rada, RadaBounds,
+                         ::testing::Values(BoundsCase{"four_digits_at_least", "PP", 1, 6},
+                                           BoundsCase{"no_prefix", "", 7, 4}, BoundsCase{"long_number", "FV", 12345, 7},
+                                           BoundsCase{"three_letter_prefix", "ZFV", 123456, 9},
+                                           BoundsCase{"never_above_hundred", LONG_PREFIX.c_str(), 1, 100}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(BookTest, RadaDialogKeepsAStoredWidthUntilAChangeAndWritesTheSeries) {
+    // ZFV's default width 6 is below the rule's 7; only editing brings it up.
+    RadaDialog dialog(m_frame, m_model->getRada("ZFV"));
+    auto* znaku = child<wxSpinCtrl>(&dialog, "znaku");
+    EXPECT_EQ(znaku->GetValue(), 6);
+    spin(child<wxSpinCtrl>(&dialog, "cislo"), 12);
+    EXPECT_EQ(znaku->GetValue(), 7);
+    child<wxTextCtrl>(&dialog, "popis")->SetValue(u8("Zálohy"));
+    ASSERT_TRUE(dialog.save());
+    const Rada stored = m_model->getRada("ZFV");
+    EXPECT_EQ(stored.popis(), u8("Zálohy"));
+    EXPECT_EQ(stored.znaku(), 7);
+    EXPECT_EQ(stored.cislo(), 12);
+    EXPECT_EQ(m_model->getCisloDokladu("ZFV"), "ZFV0012");
+}
+
+TEST_F(BookTest, PreferencesListSeriesAndStoreDueDaysOfTheYear) {
+    PreferencesDialog preferences(m_frame);
+    lxListCtrl* rady = preferences.radyPanel()->list();
+    EXPECT_EQ(rady->GetItemCount(), 15);
+    EXPECT_EQ(rady->GetItemText(0, 0), u8("Příjmový pokladní doklad"));
+    EXPECT_EQ(rady->GetItemText(0, 3), "1");
+
+    for (int days : {30, 21}) {  // the first stores the year's row, the second edits it
+        child<wxSpinCtrl>(&preferences, "splatnost")->SetValue(days);
+        ASSERT_TRUE(preferences.save());
+        EXPECT_EQ(m_model->getSplatnost(2024), days);
+        EXPECT_EQ(lxSettings::instance()->splatnost(), days);
+    }
+    EXPECT_EQ(m_model->tableRows("settings"), 1);
+}
