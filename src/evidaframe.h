@@ -94,6 +94,7 @@ class evidaFrame : public wxFrame {
     void onHelp(wxCommandEvent& event);
     void onPreferences(wxCommandEvent& event);
     void onAdresar(wxCommandEvent& event);
+    void onStavUctu(wxCommandEvent& event);
     void onUlozenaPriznani(wxCommandEvent& event);
     void onQuit(wxCommandEvent& event);
     void onClose(wxCloseEvent& event);

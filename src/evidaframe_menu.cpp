@@ -4,11 +4,13 @@
 
 #include <iterator>
 
+#include "PredkontacesDialog.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
 #include "evidaframe.h"
 #include "lxsettings.h"
 #include "navigation.h"
+#include "prompts.h"
 
 namespace {
 
@@ -61,11 +63,11 @@ const PageItem PAGE_ITEMS[] = {
 };
 
 // Commands whose dialogs come with later parts of the program (tax overviews and income
-// tax, pre-postings, account balances, payment kinds, the sent-invoice log, stock-takings,
+// tax, payment kinds, the sent-invoice log, stock-takings,
 // the template editor). Their items are in place and stay disabled until then.
 const int LATER_ITEMS[] = {
     evidaFrame::ID_PREHLED_PRIJMU,   evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
-    evidaFrame::ID_PREDKONTACE,      evidaFrame::ID_STAV_UCTU,       evidaFrame::ID_UHRADY,
+    evidaFrame::ID_UHRADY,
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
@@ -175,6 +177,15 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onZmenitObdobi, this, ID_OBDOBI_ZMENIT);
     Bind(wxEVT_MENU, &evidaFrame::onSmazatObdobi, this, ID_OBDOBI_SMAZAT);
     Bind(wxEVT_MENU, &evidaFrame::onAdresar, this, ID_ADRESAR);
+    Bind(wxEVT_MENU, &evidaFrame::onStavUctu, this, ID_STAV_UCTU);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            if (!m_model || !m_model->isOpen()) return;
+            PredkontacesDialog dialog(this);
+            dialog.ShowModal();
+        },
+        ID_PREDKONTACE);
     Bind(wxEVT_MENU, &evidaFrame::onUlozenaPriznani, this, ID_ULOZENA_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onZalohovat, this, ID_ZALOHOVAT);
     Bind(wxEVT_MENU, &evidaFrame::onObnovit, this, ID_OBNOVIT);
@@ -184,6 +195,10 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onHelp, this, wxID_HELP);
     Bind(wxEVT_MENU, &evidaFrame::onAktualizace, this, ID_AKTUALIZACE);
     for (const PageItem& item : PAGE_ITEMS) Bind(wxEVT_MENU, &evidaFrame::onPage, this, item.id);
+}
+
+void evidaFrame::onStavUctu(wxCommandEvent&) {
+    if (m_model && m_model->isOpen()) prompts().info(m_model->stavUctuAPokladen(), u8("Stav účtů a pokladen"), this);
 }
 
 void evidaFrame::enableCommands() {

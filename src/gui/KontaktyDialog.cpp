@@ -7,7 +7,9 @@
 #include "KontaktDialog.h"
 #include "book/bookshapes.h"
 #include "book/lxlistctrl.h"
+#include "printchoice.h"
 #include "prompts.h"
+#include "seznamkontaktuprint.h"
 
 namespace {
 
@@ -18,7 +20,7 @@ DbModel* openModel() {
     return model && model->isOpen() ? model : nullptr;
 }
 
-enum { ID_CHOOSE = wxID_HIGHEST + 300 };
+enum { ID_CHOOSE = wxID_HIGHEST + 300, ID_PRINT };
 
 }  // namespace
 
@@ -45,6 +47,8 @@ KontaktyDialog::KontaktyDialog(wxWindow* parent, bool chooser)
     m_edit = button(wxID_EDIT, "&Upravit");
     m_copy = button(wxID_COPY, "&Kopírovat");
     m_delete = button(wxID_DELETE, "&Smazat");
+    buttons->AddSpacer(12);
+    button(ID_PRINT, "&Tisk");
     buttons->AddStretchSpacer();
     button(wxID_CANCEL, "&Zavřít");
 
@@ -65,6 +69,8 @@ KontaktyDialog::KontaktyDialog(wxWindow* parent, bool chooser)
     bind(wxID_COPY, &KontaktyDialog::copyKontakt);
     bind(wxID_DELETE, &KontaktyDialog::deleteKontakt);
     bind(ID_CHOOSE, &KontaktyDialog::chooseKontakt);
+    Bind(
+        wxEVT_BUTTON, [this](wxCommandEvent&) { printKontakty(); }, ID_PRINT);
     m_list->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent&) { m_chooser ? chooseKontakt() : editKontakt(); });
     m_list->Bind(wxEVT_LIST_ITEM_SELECTED, [this](wxListEvent&) { updateButtons(); });
     m_list->Bind(wxEVT_LIST_ITEM_DESELECTED, [this](wxListEvent&) { updateButtons(); });
@@ -133,6 +139,27 @@ void KontaktyDialog::chooseKontakt() {
     if (!m_chooser || id <= 0) return;
     m_chosen = id;
     if (IsModal()) EndModal(wxID_OK);
+}
+
+// The whole address book, whatever is selected.
+wxString KontaktyDialog::printKontakty() {
+    DbModel* model = openModel();
+    if (!model) return wxString();
+    std::vector<KontaktRadek> radky;
+    for (const auto& kontakt : model->kontaktyview()) {
+        const KontaktView& k = *kontakt;
+        KontaktRadek r;
+        r.nazev = k.nazev();
+        r.ic = k.ic();
+        r.dic = k.dic();
+        r.ulice = (k.ulice() + " " + k.cp()).Strip(wxString::both);
+        r.misto = k.misto();
+        r.psc = k.psc();
+        r.email = k.email();
+        radky.push_back(r);
+    }
+    SeznamKontaktuPrint print(this, model->firma().nazev(), radky);
+    return nahledNeboPdf(print, u8("Seznam kontaktů"), this);
 }
 
 void KontaktyDialog::updateButtons() {

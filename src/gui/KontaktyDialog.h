@@ -24,6 +24,8 @@ class KontaktyDialog : public wxDialog {
     void copyKontakt();
     void deleteKontakt();
     void chooseKontakt();
+    // "Tisk": the list of every contact to a preview or a PDF; returns the PDF written, if any.
+    wxString printKontakty();
 
     lxListCtrl* list() const { return m_list; }
     // Reads the contacts again.

@@ -26,7 +26,25 @@ wxXmlNode* Element::createXmlNode() const {
     auto* node = new wxXmlNode(wxXML_ELEMENT_NODE, "Element");
     xmlattr::setInt(node, "Type", elementType());
     xmlattr::setInt(node, "Section", section);
+    writeXml(node);
+    xmlattr::setInt(node, "Page", page);
     return node;
+}
+
+void Element::writeXml(wxXmlNode*) const {}
+
+void Element::writePlacement(wxXmlNode* node, const wxPoint& pos, int width, int alignment) {
+    writePair(node, "X", "Y", pos);
+    xmlattr::setInt(node, "Width", width);
+    xmlattr::setInt(node, "Alignment", alignment);
+}
+
+void Element::readPlacement(const wxXmlNode* node, wxPoint* pos, int* width, wxTextAttrAlignment* alignment) {
+    readPair(node, "X", "Y", pos);
+    xmlattr::readInt(node, "Width", width);
+    int a = *alignment;
+    xmlattr::readInt(node, "Alignment", &a);
+    *alignment = static_cast<wxTextAttrAlignment>(a);
 }
 
 void Element::fromXmlNode(const wxXmlNode* node) {

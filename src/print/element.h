@@ -42,8 +42,9 @@ class Element {
     // The text style of text-like elements; the default style for the others.
     virtual TextStyle style() const;
     virtual wxString fontString() const;
-    // An "Element" node with "Type" and "Section"; each kind adds its own attributes.
-    virtual wxXmlNode* createXmlNode() const;
+    // An "Element" node: "Type" and "Section", the attributes and child nodes of the kind
+    // (writeXml), then "Page". The attribute order is the one of the template files.
+    wxXmlNode* createXmlNode() const;
     // Reads what the node holds; missing or unreadable attributes keep their values.
     virtual void fromXmlNode(const wxXmlNode* node);
     // Height in mm; with the selection frame the editor draws around a selected element.
@@ -74,6 +75,23 @@ class Element {
     static void fillBack(wxDC* dc, double mmFactor, const TextStyle& style, const wxRect2DDouble& area);
     void drawSelection(wxDC* dc, double mmFactor, int offsetX, int offsetY) const;
     static wxCoord at(double mm, double mmFactor) { return wxRound(mm * mmFactor); }
+
+    // The attributes and child nodes of the kind.
+    virtual void writeXml(wxXmlNode* node) const;
+    // "X", "Y", "Width" and "Alignment" of the elements placed at a point with a width.
+    static void writePlacement(wxXmlNode* node, const wxPoint& pos, int width, int alignment);
+    static void readPlacement(const wxXmlNode* node, wxPoint* pos, int* width, wxTextAttrAlignment* alignment);
+    // A point or a size as two whole-millimetre attributes.
+    template <class Pair>
+    static void writePair(wxXmlNode* node, const char* xName, const char* yName, const Pair& pair) {
+        xmlattr::setInt(node, xName, pair.x);
+        xmlattr::setInt(node, yName, pair.y);
+    }
+    template <class Pair>
+    static void readPair(const wxXmlNode* node, const char* xName, const char* yName, Pair* pair) {
+        xmlattr::readInt(node, xName, &pair->x);
+        xmlattr::readInt(node, yName, &pair->y);
+    }
 };
 
 using lxElementsArray = std::vector<std::unique_ptr<Element>>;

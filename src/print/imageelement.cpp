@@ -60,24 +60,13 @@ void ImageElement::DrawToDC(wxDC* dc, double mmFactor, int offsetX, int offsetY)
     drawSelection(dc, mmFactor, offsetX, offsetY);
 }
 
-wxXmlNode* ImageElement::createXmlNode() const {
-    wxXmlNode* node = Element::createXmlNode();
+void ImageElement::writeXml(wxXmlNode* node) const {
     node->AddAttribute("Path", path);
-    xmlattr::setInt(node, "X", pos.x);
-    xmlattr::setInt(node, "Y", pos.y);
-    xmlattr::setInt(node, "Width", width);
-    xmlattr::setInt(node, "Alignment", alignment);
-    xmlattr::setInt(node, "Page", page);
-    return node;
+    writePlacement(node, pos, width, alignment);
 }
 
 void ImageElement::fromXmlNode(const wxXmlNode* node) {
     Element::fromXmlNode(node);
     xmlattr::readString(node, "Path", &path);
-    xmlattr::readInt(node, "X", &pos.x);
-    xmlattr::readInt(node, "Y", &pos.y);
-    xmlattr::readInt(node, "Width", &width);
-    int a = alignment;
-    xmlattr::readInt(node, "Alignment", &a);
-    alignment = static_cast<wxTextAttrAlignment>(a);
+    readPlacement(node, &pos, &width, &alignment);
 }

@@ -21,26 +21,19 @@ void LineElement::DrawToDC(wxDC* dc, double mmFactor, int offsetX, int offsetY) 
     drawSelection(dc, mmFactor, offsetX, offsetY);
 }
 
-wxXmlNode* LineElement::createXmlNode() const {
-    wxXmlNode* node = Element::createXmlNode();
-    xmlattr::setInt(node, "StartX", start.x);
-    xmlattr::setInt(node, "StartY", start.y);
-    xmlattr::setInt(node, "EndX", end.x);
-    xmlattr::setInt(node, "EndY", end.y);
+void LineElement::writeXml(wxXmlNode* node) const {
+    writePair(node, "StartX", "StartY", start);
+    writePair(node, "EndX", "EndY", end);
     xmlattr::setInt(node, "anchor", anchor);
     xmlattr::setInt(node, "borderTop", borderTop);
     xmlattr::setInt(node, "borderBottom", borderBottom);
-    xmlattr::setInt(node, "Page", page);
     node->AddChild(lineStyle.createXmlNode());
-    return node;
 }
 
 void LineElement::fromXmlNode(const wxXmlNode* node) {
     Element::fromXmlNode(node);
-    xmlattr::readInt(node, "StartX", &start.x);
-    xmlattr::readInt(node, "StartY", &start.y);
-    xmlattr::readInt(node, "EndX", &end.x);
-    xmlattr::readInt(node, "EndY", &end.y);
+    readPair(node, "StartX", "StartY", &start);
+    readPair(node, "EndX", "EndY", &end);
     xmlattr::readBool(node, "anchor", &anchor);
     xmlattr::readBool(node, "borderTop", &borderTop);
     xmlattr::readBool(node, "borderBottom", &borderBottom);

@@ -26,25 +26,18 @@ void RectangleElement::DrawToDC(wxDC* dc, double mmFactor, int offsetX, int offs
     drawSelection(dc, mmFactor, offsetX, offsetY);
 }
 
-wxXmlNode* RectangleElement::createXmlNode() const {
-    wxXmlNode* node = Element::createXmlNode();
-    xmlattr::setInt(node, "StartX", start.x);
-    xmlattr::setInt(node, "StartY", start.y);
-    xmlattr::setInt(node, "Width", size.x);
-    xmlattr::setInt(node, "Height", size.y);
+void RectangleElement::writeXml(wxXmlNode* node) const {
+    writePair(node, "StartX", "StartY", start);
+    writePair(node, "Width", "Height", size);
     xmlattr::setInt(node, "anchor", anchor);
     xmlattr::setInt(node, "fillet", fillet);
-    xmlattr::setInt(node, "Page", page);
     node->AddChild(lineStyle.createXmlNode());
-    return node;
 }
 
 void RectangleElement::fromXmlNode(const wxXmlNode* node) {
     Element::fromXmlNode(node);
-    xmlattr::readInt(node, "StartX", &start.x);
-    xmlattr::readInt(node, "StartY", &start.y);
-    xmlattr::readInt(node, "Width", &size.x);
-    xmlattr::readInt(node, "Height", &size.y);
+    readPair(node, "StartX", "StartY", &start);
+    readPair(node, "Width", "Height", &size);
     xmlattr::readBool(node, "anchor", &anchor);
     xmlattr::readInt(node, "fillet", &fillet);
     lineStyle.fromXmlNode(xmlattr::child(node, "LineStyle"));

@@ -63,12 +63,9 @@ void TableRowElement::DrawToDC(wxDC* dc, double mmFactor, int offsetX, int offse
     drawSelection(dc, mmFactor, offsetX, offsetY);
 }
 
-wxXmlNode* TableRowElement::createXmlNode() const {
-    wxXmlNode* node = Element::createXmlNode();
-    xmlattr::setInt(node, "X", pos.x);
-    xmlattr::setInt(node, "Y", pos.y);
+void TableRowElement::writeXml(wxXmlNode* node) const {
+    writePair(node, "X", "Y", pos);
     xmlattr::setInt(node, "Border", border);
-    xmlattr::setInt(node, "Page", page);
     wxArrayString widths, alignments;
     for (int w : width) widths.push_back(wxString::Format("%d", w));
     for (int a : alignment) alignments.push_back(wxString::Format("%d", a));
@@ -77,13 +74,11 @@ wxXmlNode* TableRowElement::createXmlNode() const {
     node->AddChild(xmllist::create("Alignments", "Alignment", alignments));
     node->AddChild(textStyle.createXmlNode());
     node->AddChild(borderStyle.createXmlNode());
-    return node;
 }
 
 void TableRowElement::fromXmlNode(const wxXmlNode* node) {
     Element::fromXmlNode(node);
-    xmlattr::readInt(node, "X", &pos.x);
-    xmlattr::readInt(node, "Y", &pos.y);
+    readPair(node, "X", "Y", &pos);
     xmlattr::readBool(node, "Border", &border);
     if (xmlattr::child(node, "Values")) value = xmllist::read(node, "Values", "Value");
     auto numbers = [&](const wxString& list, const wxString& item, wxArrayInt* target, int fallback) {

@@ -38,28 +38,17 @@ void TextElement::DrawToDC(wxDC* dc, double mmFactor, int offsetX, int offsetY) 
     drawSelection(dc, mmFactor, offsetX, offsetY);
 }
 
-wxXmlNode* TextElement::createXmlNode() const {
-    wxXmlNode* node = Element::createXmlNode();
+void TextElement::writeXml(wxXmlNode* node) const {
     node->AddAttribute("Value", value);
-    xmlattr::setInt(node, "X", pos.x);
-    xmlattr::setInt(node, "Y", pos.y);
-    xmlattr::setInt(node, "Width", width);
-    xmlattr::setInt(node, "Alignment", alignment);
+    writePlacement(node, pos, width, alignment);
     xmlattr::setInt(node, "ForceSpace", forceSpace);
-    xmlattr::setInt(node, "Page", page);
     node->AddChild(textStyle.createXmlNode());
-    return node;
 }
 
 void TextElement::fromXmlNode(const wxXmlNode* node) {
     Element::fromXmlNode(node);
     xmlattr::readString(node, "Value", &value);
-    xmlattr::readInt(node, "X", &pos.x);
-    xmlattr::readInt(node, "Y", &pos.y);
-    xmlattr::readInt(node, "Width", &width);
-    int a = alignment;
-    xmlattr::readInt(node, "Alignment", &a);
-    alignment = static_cast<wxTextAttrAlignment>(a);
+    readPlacement(node, &pos, &width, &alignment);
     xmlattr::readBool(node, "ForceSpace", &forceSpace);
     textStyle.fromXmlNode(xmlattr::child(node, "TextStyle"));
 }

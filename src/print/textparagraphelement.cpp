@@ -38,28 +38,17 @@ void TextParagraphElement::DrawToDC(wxDC* dc, double mmFactor, int offsetX, int 
     drawSelection(dc, mmFactor, offsetX, offsetY);
 }
 
-wxXmlNode* TextParagraphElement::createXmlNode() const {
-    wxXmlNode* node = Element::createXmlNode();
-    xmlattr::setInt(node, "X", pos.x);
-    xmlattr::setInt(node, "Y", pos.y);
-    xmlattr::setInt(node, "Width", width);
-    xmlattr::setInt(node, "Alignment", alignment);
+void TextParagraphElement::writeXml(wxXmlNode* node) const {
+    writePlacement(node, pos, width, alignment);
     xmlattr::setInt(node, "Border", border);
-    xmlattr::setInt(node, "Page", page);
     node->AddChild(xmllist::create("Values", "Value", value));
     node->AddChild(textStyle.createXmlNode());
     node->AddChild(borderStyle.createXmlNode());
-    return node;
 }
 
 void TextParagraphElement::fromXmlNode(const wxXmlNode* node) {
     Element::fromXmlNode(node);
-    xmlattr::readInt(node, "X", &pos.x);
-    xmlattr::readInt(node, "Y", &pos.y);
-    xmlattr::readInt(node, "Width", &width);
-    int a = alignment;
-    xmlattr::readInt(node, "Alignment", &a);
-    alignment = static_cast<wxTextAttrAlignment>(a);
+    readPlacement(node, &pos, &width, &alignment);
     xmlattr::readBool(node, "Border", &border);
     if (xmlattr::child(node, "Values")) value = xmllist::read(node, "Values", "Value");
     textStyle.fromXmlNode(xmlattr::child(node, "TextStyle"));

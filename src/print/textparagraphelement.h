@@ -14,7 +14,7 @@ class TextParagraphElement : public Element {
     void DrawToDC(wxDC* dc, double mmFactor, int offsetX, int offsetY) override;
     int elementType() const override { return PARAGRAPH; }
     TextStyle style() const override { return textStyle; }
-    wxXmlNode* createXmlNode() const override;
+    void writeXml(wxXmlNode* node) const override;
     void fromXmlNode(const wxXmlNode* node) override;
     wxRect2DDouble bounds() const override;
     std::unique_ptr<Element> clone() const override { return std::make_unique<TextParagraphElement>(*this); }

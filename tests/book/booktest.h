@@ -14,7 +14,11 @@
 class lxBook;
 class lxListCtrl;
 
+// Shared by the test headers, which a test may include together.
+#ifndef EVIDA_TEST_U8
+#define EVIDA_TEST_U8
 inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
+#endif
 wxDateTime iso(const char* text);
 
 class BookTest : public ::testing::Test {

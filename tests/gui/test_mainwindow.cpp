@@ -86,7 +86,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
     // Commands of later parts are there but disabled, as are the VAT ones for a non-payer.
     for (int id : std::initializer_list<int>{
              evidaFrame::ID_PREHLED_PRIJMU, evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
-             evidaFrame::ID_PREDKONTACE, evidaFrame::ID_STAV_UCTU, evidaFrame::ID_UHRADY,
+             evidaFrame::ID_UHRADY,
              evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY, evidaFrame::ID_EDITOR_SABLON,
              evidaFrame::ID_DPH_PRIZNANI, evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_DPH_SOUHRNNE,
              evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_ULOZENA_PRIZNANI})
@@ -94,7 +94,8 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
     for (int id : std::initializer_list<int>{evidaFrame::ID_FIRMA_UPRAVIT, evidaFrame::ID_FIRMA_SMAZAT,
                                              evidaFrame::ID_FIRMA_PRIDAT, evidaFrame::ID_OBDOBI_PRIDAT,
                                              evidaFrame::ID_ADRESAR, evidaFrame::ID_ZALOHOVAT, evidaFrame::ID_OBNOVIT,
-                                             evidaFrame::ID_DENIK, evidaFrame::ID_DATUM, evidaFrame::ID_AKTUALIZACE,
+                                             evidaFrame::ID_DENIK, evidaFrame::ID_PREDKONTACE,
+                                             evidaFrame::ID_STAV_UCTU, evidaFrame::ID_DATUM, evidaFrame::ID_AKTUALIZACE,
                                              static_cast<int>(wxID_PREFERENCES)})
         EXPECT_TRUE(bar->IsEnabled(id)) << id;
 }
@@ -123,6 +124,18 @@ TEST_F(MainWindow, NavigationTreeSelectsPagesAndDropsTheVehicleLogForFlatRateExp
     EXPECT_FALSE(m_frame->jizdyShown());
     EXPECT_EQ(treeText(tree, tree->GetRootItem()), groups);
     EXPECT_EQ(m_frame->book()->currentNavigation(), NAV_HOME);  // the vehicle log is gone
+}
+
+TEST_F(MainWindow, BalancesCommandShowsEveryRegisterAndAccount) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    command(evidaFrame::ID_STAV_UCTU);
+    ASSERT_EQ(m_prompts.shown().size(), 1u);
+    EXPECT_EQ(m_prompts.shown()[0].kind, "info");
+    EXPECT_EQ(m_prompts.shown()[0].caption, u8("Stav účtů a pokladen"));
+    const wxString text = m_prompts.shown()[0].text;
+    EXPECT_TRUE(text.Contains("Pokladny:") && text.Contains("Banky:")) << text;
+    EXPECT_TRUE(text.Contains("POK1") && text.Contains("BU1")) << text;
 }
 
 TEST_F(MainWindow, ModelMessagesAreShownUnderInformace) {

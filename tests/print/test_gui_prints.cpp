@@ -4,6 +4,7 @@
 #include "fulldenikprint.h"
 #include "pokladnidokladprint.h"
 #include "pokladniknihaprint.h"
+#include "prehledprint.h"
 #include "printtest.h"
 #include "seznamkontaktuprint.h"
 
@@ -77,4 +78,28 @@ TEST_F(ReportPrints, CashVoucherIsOnePageDocument) {
     for (const char* expected : {"Příjmový pokladní doklad PP2024/007", "Přijato od", "Jiří Čermák", "1234.50 CZK",
                                  "Zaplatil", "IČ: 12345678"})
         EXPECT_NE(text.Find(u8(expected)), wxNOT_FOUND) << expected;
+}
+
+TEST_F(ReportPrints, OverviewSetsTheSummariesInTwoColumnsRowBelowRow) {
+    Prehled p;
+    p.firma = u8("Šťastná firma s.r.o.");
+    p.ic = "27074358";
+    p.obdobi = u8("účetní období 2024");
+    // A longer first summary pushes the whole next row down.
+    p.souhrny = {u8("Příjmy:\nDaňové: 1.00 Kč\nCelkem: 2.00 Kč\nJiné: 3.00 Kč\nDalší: 4.00 Kč"),
+                 u8("Výdaje:\nDaňové: 0.00 Kč"), u8("Pohledávky:\nNeuhrazené: 0")};
+    PrehledPrint print(nullptr, p);
+    const wxString pdf = print.CreatePDF("prehled", print.printTitle(), false);
+    ASSERT_FALSE(pdf.empty());
+    EXPECT_EQ(pdfPages(pdf), 1);
+    std::map<wxString, PdfWord> words;
+    for (const PdfWord& w : pdfWords(pdf)) words.emplace(w.text, w);
+    for (const char* word : {"Šťastná", "Příjmy:", "Výdaje:", "Další:", "Pohledávky:"})
+        ASSERT_EQ(words.count(u8(word)), 1u) << word;
+    const PdfWord prijmy = words[u8("Příjmy:")], vydaje = words[u8("Výdaje:")];
+    EXPECT_NEAR(vydaje.yMin, prijmy.yMin, 0.5);
+    EXPECT_NEAR(vydaje.xMin - prijmy.xMin, 95 * PT_PER_MM, 1.0);
+    EXPECT_GT(words[u8("Pohledávky:")].yMin, words[u8("Další:")].yMax);
+    EXPECT_NEAR(words[u8("Pohledávky:")].xMin, prijmy.xMin, 0.5);
+    EXPECT_LT(words[u8("Šťastná")].yMax, prijmy.yMin);
 }

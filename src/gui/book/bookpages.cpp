@@ -1,7 +1,10 @@
 #include "bookpages.h"
 
+#include "DenikTisk.h"
+#include "PrijemVydejDialog.h"
 #include "bookshapes.h"
 #include "lxbookpage.h"
+#include "lxlistctrl.h"
 #include "prompts.h"
 
 namespace bookpages {
@@ -31,6 +34,44 @@ void deleteDenik(lxBookPage* page, int id) {
                             wxString(), page))
         return;
     model->deleteDenik(id);
+}
+
+// A new entry: income or expense, of the page's kind (the journal starts with a cash register;
+// the dialog switches to a bank account).
+void addDenik(lxBookPage* page) {
+    if (!openModel()) return;
+    wxArrayString druhy;
+    druhy.Add(u8("Příjem"));
+    druhy.Add(u8("Výdaj"));
+    const int druh = prompts().singleChoice(u8("Vyberte, co chcete zadat"), u8("Přidat záznam"), druhy, 0, page);
+    if (druh < 0) return;
+    PrijemVydejDialog dialog(page, druh == 0, page->navigation() == NAV_BANKA, DenikForm::ADD);
+    dialog.ShowModal();
+}
+
+void editDenik(lxBookPage* page, int id, bool copy) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const Denik denik = model->getDenik(id);
+    if (!denik.isValid()) return;
+    const bool prijem = model->isDenikPrijem(id);
+    const bool banka = denik.pokladnaid() <= 0 && denik.bankaid() > 0;
+    if (!copy) {
+        PrijemVydejDialog dialog(page, prijem, banka, DenikForm::EDIT, id);
+        dialog.ShowModal();
+        return;
+    }
+    // The copy exists from here on; leaving the dialog with Cancel takes it away again.
+    const int kopie = model->copyDenik(id);
+    if (kopie <= 0) return;
+    PrijemVydejDialog dialog(page, prijem, banka, DenikForm::COPY, kopie);
+    if (dialog.ShowModal() != wxID_OK) model->deleteDenik(kopie);
+}
+
+void printDenik(lxBookPage* page) {
+    std::vector<int> ids;
+    for (size_t r = 0; r < page->rows().rowCount(); ++r) ids.push_back(page->rows().id(r));
+    DenikTisk(page, page->navigation(), ids, page->list()->selectedId()).run();
 }
 
 void deleteJizda(lxBookPage* page, int id) {
@@ -90,7 +131,11 @@ lxBookPage* create(wxWindow* parent, int nav) {
         case NAV_POKLADNA:
         case NAV_BANKA:
             created = page(parent, nav, bookshapes::denik(nav));
+            created->setAction(BOOK_ADD, [created](int) { addDenik(created); });
+            created->setAction(BOOK_EDIT, [created](int id) { editDenik(created, id, false); });
+            created->setAction(BOOK_COPY, [created](int id) { editDenik(created, id, true); });
             created->setAction(BOOK_DELETE, [created](int id) { deleteDenik(created, id); });
+            created->setPrintAction([created] { printDenik(created); });
             break;
         case NAV_FAKTURY_VYDANE:
         case NAV_FAKTURY_PRIJATE:

@@ -1,6 +1,8 @@
 #include "bookshapes.h"
 
 #include <functional>
+#include <map>
+#include <memory>
 
 #include "lxsettings.h"
 #include "lxutils.h"
@@ -147,6 +149,31 @@ lxPageShape<DenikView> denik(int nav) {
     s.date = [](const DenikView& r) { return r.datum(); };
     s.choices = {{u8("Příjmy"), [](const DenikView& r) { return r.prijem(); }},
                  {u8("Výdaje"), [](const DenikView& r) { return !r.prijem(); }}};
+    // Each register or account of the page, then each pre-posting. The journal's rows do not
+    // carry their pre-posting, so the entries' pre-postings are read once per reload.
+    s.moreChoices = [nav]() {
+        std::vector<lxChoice<DenikView>> choices;
+        DbModel* model = DbModel::instance();
+        if (!model || !model->isOpen()) return choices;
+        auto registr = [&](const wxString& caption, const wxString& zkratka) {
+            choices.push_back({caption, [zkratka](const DenikView& r) { return r.zkratka() == zkratka; }});
+        };
+        if (nav != NAV_BANKA)
+            for (const auto& p : model->pokladny()) registr(u8("Pokladna ") + p->zkratka(), p->zkratka());
+        if (nav != NAV_POKLADNA)
+            for (const auto& b : model->banky()) registr(u8("Bankovní účet ") + b->zkratka(), b->zkratka());
+        auto predkontace = std::make_shared<std::map<int, int>>();
+        for (const auto& d : model->denik()) (*predkontace)[d->id()] = d->predkontaceid();
+        for (const auto& p : model->predkontace()) {
+            const int id = p->id();
+            choices.push_back({u8("Předkontace ") + p->zkratka() + " " + p->popis(),
+                               [predkontace, id](const DenikView& r) {
+                                   const auto it = predkontace->find(r.id());
+                                   return it != predkontace->end() && it->second == id;
+                               }});
+        }
+        return choices;
+    };
     s.footer = [](const std::vector<const DenikView*>& rows) {
         double prijmy = 0, vydaje = 0;
         for (const DenikView* r : rows) (r->prijem() ? prijmy : vydaje) += r->castka();

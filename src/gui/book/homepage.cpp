@@ -1,6 +1,8 @@
 #include "homepage.h"
 
 #include "dbmodel.h"
+#include "printchoice.h"
+#include "stavuctuprint.h"
 
 namespace {
 
@@ -27,6 +29,28 @@ wxString escape(const wxString& text) {
         }
     }
     return out;
+}
+
+// A summary fragment ("<b>Příjmy:</b><br>Daňové: ...<br>") as lines of text.
+wxString plainText(const wxString& html) {
+    wxString text = html;
+    text.Replace("<br>", "\n");
+    wxString out;
+    bool inTag = false;
+    for (const wxUniChar c : text) {
+        if (c == '<') inTag = true;
+        if (!inTag) out += c;
+        if (c == '>') inTag = false;
+    }
+    return out.Strip(wxString::both);
+}
+
+const char* const LINK_PREHLED = "tisk:prehled";
+const char* const LINK_STAV_UCTU = "tisk:stavuctu";
+
+DbModel* openModel() {
+    DbModel* model = DbModel::instance();
+    return model && model->isOpen() ? model : nullptr;
 }
 
 }  // namespace
@@ -58,5 +82,47 @@ wxString HomePage::html(DbModel* model) {
     for (const auto& row : cells)
         page += "<tr><td valign=\"top\" width=\"260\">" + row[0] + "</td><td valign=\"top\">" + row[1] + "</td></tr>";
     page += "</table>";
+    page += wxString::Format(wxString::FromUTF8("<p><a href=\"%s\">Tisk přehledu</a> &nbsp; "
+                                                "<a href=\"%s\">Tisk stavu pokladen a účtů</a></p>"),
+                             LINK_PREHLED, LINK_STAV_UCTU);
     return page + "</body></html>";
+}
+
+Prehled HomePage::prehled(DbModel* model) {
+    Prehled p;
+    if (!model || !model->isOpen()) return p;
+    p.firma = model->firma().nazev();
+    p.ic = model->firma().ic();
+    p.obdobi = wxString::Format(wxString::FromUTF8("účetní období %d"), model->currentRok());
+    // The order of the page: the journal, the invoices, then receivables and liabilities.
+    for (const wxString& souhrn : {model->homepagePrijmy(), model->homepageVydaje(), model->homepageVydane(),
+                                   model->homepagePrijate(), model->homepagePohledavky(), model->homepageZavazky()})
+        p.souhrny.push_back(plainText(souhrn));
+    return p;
+}
+
+wxString HomePage::printPrehled() {
+    DbModel* model = openModel();
+    if (!model) return wxString();
+    PrehledPrint print(this, prehled(model));
+    return nahledNeboPdf(print, print.printTitle(), this);
+}
+
+wxString HomePage::printStavUctu() {
+    DbModel* model = openModel();
+    if (!model) return wxString();
+    std::vector<StavUctuRadek> pokladny, banky;
+    for (const DbModel::StavUctu& s : model->stavyUctu())
+        (s.banka ? banky : pokladny).push_back(StavUctuRadek{s.zkratka, s.popis, s.mena, s.stav});
+    StavUctuPrint print(this, model->firma().nazev(), pokladny, banky);
+    return nahledNeboPdf(print, print.printTitle(), this);
+}
+
+void HomePage::OnLinkClicked(const wxHtmlLinkInfo& link) {
+    if (link.GetHref() == LINK_PREHLED)
+        printPrehled();
+    else if (link.GetHref() == LINK_STAV_UCTU)
+        printStavUctu();
+    else
+        wxHtmlWindow::OnLinkClicked(link);
 }

@@ -5,6 +5,8 @@
 
 #include <wx/html/htmlwin.h>
 
+#include "prehledprint.h"
+
 class DbModel;
 
 class HomePage : public wxHtmlWindow {
@@ -15,4 +17,15 @@ class HomePage : public wxHtmlWindow {
     void refresh();
     // The page's HTML for a model (null or closed: a page saying no company is open).
     static wxString html(DbModel* model);
+    // What the overview print shows of the open company: the page's texts without markup.
+    static Prehled prehled(DbModel* model);
+
+    // The links under the summaries: the overview as a one-page document, and the balances
+    // of the cash registers and bank accounts as two tables; each to a preview or a PDF.
+    // They return the PDF written, if any.
+    wxString printPrehled();
+    wxString printStavUctu();
+
+ protected:
+    void OnLinkClicked(const wxHtmlLinkInfo& link) override;
 };

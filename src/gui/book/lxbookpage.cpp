@@ -179,6 +179,10 @@ Table lxBookPage::printTable() const {
 }
 
 void lxBookPage::print() {
+    if (m_printAction) {
+        m_printAction();
+        return;
+    }
     Table table = printTable();
     TablePrint printing(this, m_title);
     printing.setTable(&table);

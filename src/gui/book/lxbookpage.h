@@ -56,7 +56,10 @@ class lxBookPage : public wxPanel {
     bool exportCsv(const wxString& path, wxString* error = nullptr);
     // The shown rows as a print table, and its preview.
     Table printTable() const;
+    // "Tisk": the page's own print command when it has one, else the preview of the shown rows.
     void print();
+    // Gives the page its own print command.
+    void setPrintAction(std::function<void()> handler) { m_printAction = std::move(handler); }
 
  private:
     void onCommand(wxCommandEvent& event);
@@ -70,6 +73,7 @@ class lxBookPage : public wxPanel {
     wxString m_title;
     std::unique_ptr<lxRowModel> m_rows;
     std::array<Action, BOOK_ACTIONS> m_actions;
+    std::function<void()> m_printAction;
     bool m_stale = true;
     wxToolBar* m_toolbar = nullptr;
     lxListCtrl* m_list = nullptr;

@@ -39,6 +39,9 @@ struct lxPageShape {
     // The date the filter's range applies to; empty when the rows have none.
     std::function<wxDateTime(const Row&)> date;
     std::vector<lxChoice<Row>> choices;
+    // Choices that depend on the company's data (its registers, say), asked for again with
+    // every reload and offered after the fixed ones.
+    std::function<std::vector<lxChoice<Row>>()> moreChoices;
     // The footer of a non-empty list over the shown rows; empty for a plain count.
     std::function<wxString(const std::vector<const Row*>&)> footer;
 };
@@ -48,13 +51,21 @@ class lxTableModel : public lxRowModel {
  public:
     using Rows = typename lxPageShape<Row>::Rows;
 
-    explicit lxTableModel(lxPageShape<Row> shape) : m_shape(std::move(shape)) { rebuild(); }
+    explicit lxTableModel(lxPageShape<Row> shape) : m_shape(std::move(shape)), m_choices(m_shape.choices) {
+        rebuild();
+    }
 
     wxString key() const override { return m_shape.key; }
     int columnCount() const override { return static_cast<int>(m_shape.columns.size()); }
     const lxColumnInfo& column(int column) const override { return m_shape.columns.at(column).info; }
 
-    void reload() override { setRows(m_shape.source ? m_shape.source() : Rows()); }
+    void reload() override {
+        if (m_shape.moreChoices) {
+            m_choices = m_shape.choices;
+            for (auto& choice : m_shape.moreChoices()) m_choices.push_back(std::move(choice));
+        }
+        setRows(m_shape.source ? m_shape.source() : Rows());
+    }
     // Takes rows given directly (tests, benchmarks) as if the source had returned them.
     void setRows(Rows rows) {
         m_rows = std::move(rows);
@@ -102,7 +113,7 @@ class lxTableModel : public lxRowModel {
     bool hasDateFilter() const override { return static_cast<bool>(m_shape.date); }
     wxArrayString filterChoices() const override {
         wxArrayString captions;
-        for (const auto& choice : m_shape.choices) captions.Add(choice.caption);
+        for (const auto& choice : m_choices) captions.Add(choice.caption);
         return captions;
     }
 
@@ -110,8 +121,8 @@ class lxTableModel : public lxRowModel {
 
  private:
     bool matches(const Row& row, const wxString& needle) const {
-        if (m_filter.choice > 0 && m_filter.choice <= static_cast<int>(m_shape.choices.size()) &&
-            !m_shape.choices[m_filter.choice - 1].matches(row))
+        if (m_filter.choice > 0 && m_filter.choice <= static_cast<int>(m_choices.size()) &&
+            !m_choices[m_filter.choice - 1].matches(row))
             return false;
         if (m_shape.date && (m_filter.od.IsValid() || m_filter.doDne.IsValid())) {
             const wxDateTime date = m_shape.date(row);
@@ -214,6 +225,7 @@ class lxTableModel : public lxRowModel {
     lxPageShape<Row> m_shape;
     Rows m_rows;
     std::vector<const Row*> m_visible;
+    std::vector<lxChoice<Row>> m_choices;
     lxFilter m_filter;
     int m_sortColumn = -1;
     bool m_ascending = true;
