@@ -16,23 +16,6 @@ using ::testing::HasSubstr;
 
 namespace {
 
-struct CliResult {
-    int status;
-    std::string output;
-};
-
-CliResult runCli(const wxString& args) {
-    const wxString command = wxString(EVIDA_CLI) + " " + args + " 2>&1";
-    CliResult result{-1, {}};
-    FILE* pipe = popen(command.utf8_str(), "r");
-    if (!pipe) return result;
-    char buffer[512];
-    while (fgets(buffer, sizeof buffer, pipe)) result.output += buffer;
-    const int status = pclose(pipe);
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
-}
-
 void writeFile(const wxString& path, const std::string& bytes) {
     wxFFile f(path, "wb");
     f.Write(bytes.data(), bytes.size());

@@ -83,23 +83,6 @@ std::string readFile(const wxString& path) {
     return s;
 }
 
-struct CliResult {
-    int status;
-    std::string output;
-};
-
-CliResult runCli(const wxString& args) {
-    const wxString command = wxString(EVIDA_CLI) + " " + args + " 2>&1";
-    CliResult result{-1, {}};
-    FILE* pipe = popen(command.utf8_str(), "r");
-    if (!pipe) return result;
-    char buffer[512];
-    while (fgets(buffer, sizeof buffer, pipe)) result.output += buffer;
-    const int status = pclose(pipe);
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
-}
-
 }  // namespace
 
 class Currencies : public TestCompany {

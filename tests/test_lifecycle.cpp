@@ -16,24 +16,6 @@ using ::testing::HasSubstr;
 
 namespace {
 
-struct CliResult {
-    int status;
-    std::string output;
-};
-
-// Runs evida-cli as a second process, the way a second program would touch the file.
-CliResult runCli(const wxString& args) {
-    const wxString command = wxString(EVIDA_CLI) + " " + args + " 2>&1";
-    CliResult result{-1, {}};
-    FILE* pipe = popen(command.utf8_str(), "r");
-    if (!pipe) return result;
-    char buffer[512];
-    while (fgets(buffer, sizeof buffer, pipe)) result.output += buffer;
-    const int status = pclose(pipe);
-    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-    return result;
-}
-
 void writeFile(const wxString& path, const char* content) {
     wxFFile f(path, "wb");
     f.Write(content, std::strlen(content));

@@ -8,7 +8,9 @@
 
 #include <sqlite3.h>
 
+#include <cstdio>
 #include <cstdlib>
+#include <sys/wait.h>
 
 #include "companysetup.h"
 #include "lxsettings.h"
@@ -16,6 +18,18 @@
 #include "schema.h"
 
 wxDateTime lxSettingsToday() { return lxSettings::instance()->datum(); }
+
+CliResult runCli(const wxString& args) {
+    const wxString command = wxString(EVIDA_CLI) + " " + args + " 2>&1";
+    CliResult result{-1, {}};
+    FILE* pipe = popen(command.utf8_str(), "r");
+    if (!pipe) return result;
+    char buffer[512];
+    while (fgets(buffer, sizeof buffer, pipe)) result.output += buffer;
+    const int status = pclose(pipe);
+    result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return result;
+}
 
 EventRecorder::EventRecorder() {
     Bind(MODEL_UPDATED, [this](wxCommandEvent& e) { updates.push_back(e.GetInt()); });

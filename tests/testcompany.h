@@ -7,6 +7,7 @@
 #include <wx/string.h>
 
 #include <memory>
+#include <string>
 #include <vector>
 
 #include "dbmodel.h"
@@ -16,6 +17,13 @@ inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
 // The working date of the application as the model sees it.
 wxDateTime lxSettingsToday();
+
+// The outcome of running evida-cli as a separate process, as a second program would.
+struct CliResult {
+    int status;
+    std::string output;  // standard output and error together
+};
+CliResult runCli(const wxString& args);
 
 // Records what the model sends.
 class EventRecorder : public wxEvtHandler {
