@@ -7,11 +7,11 @@
 #include <wx/log.h>
 #include <wx/stdpaths.h>
 #include <wx/sysopt.h>
-#include <wx/translation.h>
 #include <wx/utils.h>
 
 #include <cstdio>
 
+#include "czechlocale.h"
 #include "evidaframe.h"
 #include "lxsettings.h"
 #include "prompts.h"
@@ -84,22 +84,13 @@ bool evidaApp::OnInit() {
 
 void evidaApp::initLocale() {
     const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
-    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(exeDir + "/../Resources/locale");
-    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(evidaFrame::resourcesDir() + "/locale");
+    wxArrayString prefixes;
+    prefixes.Add(exeDir + "/../Resources/locale");
+    prefixes.Add(evidaFrame::resourcesDir() + "/locale");
 #ifdef EVIDA_BUILD_LOCALE_DIR
-    wxFileTranslationsLoader::AddCatalogLookupPathPrefix(EVIDA_BUILD_LOCALE_DIR);
+    prefixes.Add(EVIDA_BUILD_LOCALE_DIR);
 #endif
-    // A language the system cannot set (no generated locale) is not worth a message box.
-    wxLogNull quiet;
-    m_locale = std::make_unique<wxLocale>();
-    m_locale->Init(wxLANGUAGE_DEFAULT, wxLOCALE_LOAD_DEFAULT);
-    // The program speaks Czech whatever the system language: the texts that come from
-    // wxWidgets itself (wizard buttons and the like) are taken from the Czech catalogues.
-    if (wxTranslations* translations = wxTranslations::Get()) {
-        translations->SetLanguage(wxLANGUAGE_CZECH);
-        translations->AddStdCatalog();
-        translations->AddCatalog("evida");
-    }
+    m_locale = initCzechLocale(prefixes);
 }
 
 int evidaApp::OnExit() {

@@ -3,12 +3,12 @@
 #include <map>
 
 #include "bankaknihaprint.h"
-#include "bankovnidokladprint.h"
 #include "dbmodel.h"
 #include "fulldenikprint.h"
 #include "listdenikprint.h"
+#include "lxformat.h"
 #include "navigation.h"
-#include "pokladnidokladprint.h"
+#include "peneznidokladprint.h"
 #include "pokladniknihaprint.h"
 #include "printchoice.h"
 #include "prompts.h"
@@ -17,7 +17,6 @@
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
-wxString datum(const wxDateTime& d) { return d.IsValid() ? d.Format("%d.%m.%Y") : wxString(); }
 
 DbModel* openModel() {
     DbModel* model = DbModel::instance();
@@ -89,39 +88,22 @@ wxString DenikTisk::run(Tisk tisk) {
 
     if (tisk == UPLNY) {
         // One amount column per journal column; an entry fills the column of its pre-posting.
-        wxArrayString sloupce;
-        sloupce.Add(u8("Datum"));
-        sloupce.Add(u8("Doklad"));
-        sloupce.Add(u8("Popis"));
-        std::map<int, int> indexSloupce;
-        std::vector<int> castky;
-        for (const auto& s : model->deniksloupce()) {
-            indexSloupce[s->sloupec()] = static_cast<int>(sloupce.size());
-            castky.push_back(static_cast<int>(sloupce.size()));
-            sloupce.Add(s->popis());
-        }
-        std::vector<wxArrayString> radky;
+        std::vector<FullDenikPrint::Sloupec> sloupce;
+        for (const auto& s : model->deniksloupce()) sloupce.push_back({s->sloupec(), s->popis()});
+        std::vector<FullDenikPrint::Radek> radky;
         for (const Denik& d : denik) {
-            wxArrayString radek;
-            radek.Add(datum(d.datum()));
-            radek.Add(d.cislo());
-            radek.Add(d.popis());
-            for (size_t i = 3; i < sloupce.size(); ++i) radek.Add(wxString());
             const auto p = predkontace.find(d.predkontaceid());
-            if (p != predkontace.end()) {
-                const auto s = indexSloupce.find(p->second.deniksloupecid());
-                if (s != indexSloupce.end()) radek[s->second] = wxString::Format("%.2f", d.castka());
-            }
-            radky.push_back(radek);
+            const int sloupec = p != predkontace.end() ? p->second.deniksloupecid() : 0;
+            radky.push_back({d.datum(), d.cislo(), d.popis(), sloupec, d.castka()});
         }
-        FullDenikPrint print(m_parent, firma, rok, sloupce, radky, castky);
+        FullDenikPrint print(m_parent, firma, rok, sloupce, radky);
         return nahledNeboPdf(print, wxString::Format(u8("Peněžní deník %d"), rok), m_parent);
     }
 
     std::vector<DenikRadek> radky;
     for (const Denik& d : denik) {
         DenikRadek r;
-        r.datum = datum(d.datum());
+        r.datum = lxformat::formatDatum(d.datum());
         r.cislo = d.cislo();
         r.popis = d.popis();
         const auto p = predkontace.find(d.predkontaceid());
@@ -150,7 +132,7 @@ wxString DenikTisk::kniha(DbModel& model) {
     for (const auto& p : model.predkontace()) prijmove[p->id()] = p->prijem();
     auto pohyb = [&](const Denik& d, double castka) {
         PokladniPohyb p;
-        p.datum = datum(d.datum());
+        p.datum = lxformat::formatDatum(d.datum());
         p.doklad = d.cislo();
         p.popis = d.popis();
         (prijmove[d.predkontaceid()] ? p.prijem : p.vydej) = castka;
@@ -205,36 +187,24 @@ wxString DenikTisk::doklad(DbModel& model) {
     const wxString partner = d.protistranaid() > 0 ? model.getKontakt(d.protistranaid()).nazev() : wxString();
     const int menaid = d.menaid() > 0 ? d.menaid() : 1;
     const double castka = menaid == 1 ? d.castka() : d.castkacizi();
-    const wxString mena = menaKod(model, menaid);
-    if (d.bankaid() > 0) {
+    PenezniDoklad doklad;
+    doklad.banka = d.bankaid() > 0;
+    doklad.prijem = prijem;
+    doklad.cislo = d.cislo();
+    doklad.datum = d.datum();
+    doklad.firma = model.firma().nazev();
+    doklad.firmaIc = model.firma().ic();
+    doklad.partner = partner;
+    doklad.ucel = d.popis();
+    doklad.castka = castka;
+    doklad.mena = menaKod(model, menaid);
+    if (doklad.banka) {
         const Banka banka = model.getBanka(d.bankaid());
-        BankovniDoklad b;
-        b.prijem = prijem;
-        b.cislo = d.cislo();
-        b.datum = datum(d.datum());
-        b.firma = model.firma().nazev();
-        b.firmaIc = model.firma().ic();
-        b.ucet =
+        doklad.ucet =
             banka.zkratka() + (maCisloUctu(banka) ? "  " + banka.cislouctu() + "/" + banka.kodbanky() : wxString());
-        b.vypis = d.vypis();
-        b.partner = partner;
-        b.ucel = d.popis();
-        b.reference = d.reference();
-        b.castka = castka;
-        b.mena = mena;
-        BankovniDokladPrint print(m_parent, b);
-        return nahledNeboPdf(print, d.cislo(), m_parent);
+        doklad.vypis = d.vypis();
+        doklad.reference = d.reference();
     }
-    PokladniDoklad p;
-    p.prijem = prijem;
-    p.cislo = d.cislo();
-    p.datum = datum(d.datum());
-    p.firma = model.firma().nazev();
-    p.firmaIc = model.firma().ic();
-    p.partner = partner;
-    p.ucel = d.popis();
-    p.castka = castka;
-    p.mena = mena;
-    PokladniDokladPrint print(m_parent, p);
+    PenezniDokladPrint print(m_parent, doklad);
     return nahledNeboPdf(print, d.cislo(), m_parent);
 }

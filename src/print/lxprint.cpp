@@ -37,7 +37,15 @@ void lxPrint::performPageSetup() {
     m_pageSetup.SetMarginBottomRight(wxPoint(0, 0));
 }
 
-double lxPrint::sheetWidthMm() const { return m_layout.paperOrientation == wxLANDSCAPE ? A4_LONG_MM : A4_SHORT_MM; }
+double lxPrint::sheetWidthMm() const { return sheetWidthMm(m_layout.paperOrientation); }
+
+double lxPrint::sheetWidthMm(wxPrintOrientation orientation) {
+    return orientation == wxLANDSCAPE ? A4_LONG_MM : A4_SHORT_MM;
+}
+
+double lxPrint::printableWidthMm(const Layout& layout) {
+    return sheetWidthMm(layout.paperOrientation) - layout.marginLeft - layout.marginRight;
+}
 
 double lxPrint::sheetHeightMm() const { return m_layout.paperOrientation == wxLANDSCAPE ? A4_SHORT_MM : A4_LONG_MM; }
 
@@ -72,24 +80,25 @@ void lxPrint::OnBeginPrinting() {
     }
     wxDC* dc = GetDC();
     m_pdf = dynamic_cast<lxPdfDC*>(dc) != nullptr;
+    // Every device is scaled so that a logical unit is a screen pixel, the unit text is
+    // measured in; a millimetre is then the same number of logical units everywhere.
+    const double screenPpi = lxTextMeasure::screenPpi();
     double scale = 0;
     if (m_pdf) {
-        // The PDF counts in points; scale it so that a logical unit is a screen pixel.
-        const double screenPpi = lxTextMeasure::screenPpi();
-        const double pdfPpi = lxPdfDC::POINTS_PER_INCH;
-        scale = pdfPpi / screenPpi;
-        m_mmFactor = pdfPpi / (scale * 25.4);
+        // The PDF counts in points.
+        scale = lxPdfDC::POINTS_PER_INCH / screenPpi;
     } else {
-        int screenX = 0, screenY = 0, printerX = 0, printerY = 0, pageW = 0, pageH = 0, dcW = 0, dcH = 0;
-        GetPPIScreen(&screenX, &screenY);
+        // A printer DC is as large as the page in printer pixels. The preview draws into a
+        // bitmap as large as the page on screen at its zoom, and says so through the DC's
+        // size: dcW / pageW brings the printer's resolution down to that bitmap.
+        int printerX = 0, printerY = 0, pageW = 0, pageH = 0, dcW = 0, dcH = 0;
         GetPPIPrinter(&printerX, &printerY);
         GetPageSizePixels(&pageW, &pageH);
         dc->GetSize(&dcW, &dcH);
-        if (screenX > 0 && printerX > 0 && pageW > 0 && dcW > 0) {
-            scale = static_cast<double>(printerX) / screenX * (static_cast<double>(dcW) / pageW);
-            m_mmFactor = printerX / (scale * 25.4);
-        }
+        if (printerX > 0 && pageW > 0 && dcW > 0)
+            scale = static_cast<double>(printerX) / screenPpi * (static_cast<double>(dcW) / pageW);
     }
+    m_mmFactor = screenPpi / 25.4;
     if (scale <= 0 || m_mmFactor <= 0) {
         m_failed = true;
         wxLogError(errorMessage());

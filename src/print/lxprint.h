@@ -53,6 +53,9 @@ class lxPrint : public wxPrintout {
     bool isPdf() const { return m_pdf; }
     double sheetWidthMm() const;
     double sheetHeightMm() const;
+    static double sheetWidthMm(wxPrintOrientation orientation);
+    // Width between the margins of a layout.
+    static double printableWidthMm(const Layout& layout);
     // Height the table prints cut their rows into: 289 mm of a portrait A4 sheet.
     double usablePageHeightMm() const { return usablePageHeightMm(m_layout.paperOrientation); }
     static double usablePageHeightMm(wxPrintOrientation orientation);

@@ -38,12 +38,17 @@ MultiTablePrint::MultiTablePrint(wxWindow* parent, const wxString& title) : lxPr
 
 int MultiTablePrint::paginate() {
     int pages = 0;
-    if (m_tables)
-        for (Table& table : *m_tables) {
-            table.refreshCellsSize();
-            pages += table.calculatePages(m_layout.marginTop, m_layout.marginBottom,
-                                          lxPrint::usablePageHeightMm(m_layout.paperOrientation));
-        }
+    if (!m_tables) return 1;
+    std::vector<Table*> all;
+    for (Table& table : *m_tables) {
+        table.refreshCellsSize();
+        all.push_back(&table);
+    }
+    fitTablesToSheet(all, m_layout);
+    for (Table& table : *m_tables) {
+        pages += table.calculatePages(m_layout.marginTop, m_layout.marginBottom,
+                                      lxPrint::usablePageHeightMm(m_layout.paperOrientation));
+    }
     return pages > 0 ? pages : 1;
 }
 

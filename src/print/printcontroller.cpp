@@ -19,7 +19,7 @@ std::unique_ptr<lxPrint> lxPrintController::makePrintout(int pages, bool snapsho
 
 wxPreviewFrame* lxPrintController::Preview() { return showPreview(false); }
 
-wxPreviewFrame* lxPrintController::showPreview(bool modal) {
+wxPrintPreview* lxPrintController::createPreview() {
     const int pages = paginate();
     std::unique_ptr<lxPrint> forPreview = makePrintout(pages, true);
     std::unique_ptr<lxPrint> forPrinting = makePrintout(pages, true);
@@ -32,6 +32,14 @@ wxPreviewFrame* lxPrintController::showPreview(bool modal) {
     auto* preview = new wxPrintPreview(forPreview.release(), forPrinting.release(), &data);
     if (!preview->IsOk()) {
         delete preview;
+        return nullptr;
+    }
+    return preview;
+}
+
+wxPreviewFrame* lxPrintController::showPreview(bool modal) {
+    wxPrintPreview* preview = createPreview();
+    if (!preview) {
         wxMessageBox("There was a problem with previewing.\nPerhaps your current printer is not set correctly?",
                      "Previewing", wxOK);
         return nullptr;

@@ -11,6 +11,7 @@
 #include "lxprint.h"
 
 class wxPreviewFrame;
+class wxPrintPreview;
 class wxWindow;
 
 class lxPrintController {
@@ -27,6 +28,10 @@ class lxPrintController {
     // Opens the preview frame (880 x 650, zoom 100 %) and returns it, or shows the message
     // "There was a problem with previewing..." and returns null.
     wxPreviewFrame* Preview();
+    // Lays the content out and makes the preview object over two fresh printouts (one shown,
+    // one to print from the preview), or returns null when it cannot be made. The caller, or
+    // the preview frame it is handed to, owns it.
+    wxPrintPreview* createPreview();
     // Prints through the system print dialog; false when cancelled or failed.
     bool Print();
     // Writes every page into a PDF file at `path`: the title in the metadata when not empty,

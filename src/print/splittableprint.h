@@ -25,12 +25,15 @@ class SplitTablePrint : public TablePrint {
  public:
     SplitTablePrint(wxWindow* parent, const wxString& title);
 
-    // Groups of whole columns, in order, each as wide as possible but at most `width` mm
-    // (a single column wider than that is a group by itself). Needs the computed widths.
+    // Groups of whole columns, in order, each as wide as possible but, with the table's
+    // repeated columns beside it, at most `width` mm (a single column wider than that is a
+    // group by itself). The repeated columns belong to no group. Needs the computed widths.
     static lxTableColumnsSplitArray splitColumns(const Table& table, double width);
 
     // Row pages times column groups.
     int paginate() override;
+    // Left edge (mm) of the table on page `page`, after pagination.
+    double tableLeftMm(int page) const;
 
  protected:
     std::unique_ptr<lxPrint> createPrintout(bool snapshot) override;

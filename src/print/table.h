@@ -13,6 +13,11 @@
 constexpr double MM_PER_POINT = 0.35277777777777775;
 // Line spacing of printed text, as a multiple of the font size.
 constexpr double LINE_SPACING = 1.2;
+// Horizontal padding inside a table cell, each side.
+constexpr double CELL_PADDING_MM = 2.0;
+// Room above and below the lines of every table row, so that the rules between rows never
+// touch accents above capitals or descenders.
+constexpr double ROW_PADDING_MM = 0.6;
 
 class TableCell {
  public:
@@ -78,20 +83,35 @@ class Table {
 
     // Recomputes every column width, the header height and every row height.
     void refreshCellsSize();
+    // Narrows the columns so that the table is at most `width` mm wide, then recomputes the
+    // heights. The widest columns give way first, down to the width of their longest word;
+    // only when even that is too wide do all columns shrink alike and long words are cut
+    // between characters. A table that fits is left alone. Needs the computed widths.
+    void fitToWidth(double width);
     double calculateColumnWidth(int column) const;
     int numberOfWrappedLines(const lxTableCellArray& row) const;
     double calculateRowHeight(const lxTableCellArray& row) const;
     // Width of one cell's widest line plus 2 mm padding on each side.
     static double cellWidth(const TableCell& cell);
+    // The narrowest column in which no word of the cell has to be cut.
+    static double narrowestWidth(const TableCell& cell);
     // Height of one line of the cell, whole millimetres.
     static double cellLineHeight(const TableCell& cell);
-    // Wrapping limit of a column in screen pixels: 90 % of its width.
+    // Wrapping limit of a column in screen pixels: 90 % of its width, but never past the
+    // padding (which narrow columns would otherwise reach).
     double wrapLimitPx(int column) const;
+    static double wrapLimitPx(double columnWidthMm);
+    // The lines of a cell's text in a column `columnWidthMm` wide: what is drawn and counted.
+    static std::vector<wxString> wrapCell(const TableCell& cell, double columnWidthMm);
 
     double headerHeight() const { return m_headerHeight; }
     double rowHeight(int row) const;
     double tableWidth() const;
     double tableWidthForSplit(int split) const;
+    // The columns printed with column group `split`: the repeated columns, then the group's.
+    // Without groups, every column.
+    std::vector<int> columnsForSplit(int split) const;
+    double columnsWidth(const std::vector<int>& columns) const;
     // Height the title takes on the first page, 0 without a title.
     double titleHeight() const;
 
@@ -99,6 +119,8 @@ class Table {
     // the title. Fills rowsPerPage() and returns the number of pages.
     int calculatePages(double top, double bottom, double pageHeight);
     const lxTableRowsPerPageArray& rowsPerPage() const { return m_rowsPerPage; }
+    // Pages cut by the caller, for prints that add rows of their own to every page.
+    void setRowsPerPage(const lxTableRowsPerPageArray& pages);
     int pagesWithoutSplit() const { return m_pages; }
     int numberOfColumnsSplit() const { return static_cast<int>(columnsSplit.size()); }
     // Pages including the column groups (a table without groups counts as one group).
@@ -108,10 +130,14 @@ class Table {
     lxTableCellArray header;
     lxTableRowArray rows;
     lxTableColumnsSplitArray columnsSplit;
+    // The first `repeatedColumns` columns (a date, a document number) are printed with every
+    // column group of a split table, left of the group; groups hold only later columns.
+    int repeatedColumns = 0;
     TextStyle style;
 
  private:
     void widenTo(size_t columns);
+    void refreshHeights();
 
     int m_columns = 0;
     std::vector<double> m_fixedWidths;   // 0: from the contents

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr double CELL_PADDING_MM = 2.0;
-constexpr double WRAP_SHARE = 0.9;
 // Room between the title and the header row.
 constexpr double TITLE_GAP_MM = 2.0;
 
@@ -76,9 +74,12 @@ void TablePrintout::drawCell(const TableCell& cell, wxDC* dc, double x, double y
     useStyle(dc, cell.style);
     const wxFont& font = cell.style.font;
     const double lineHeight = Table::cellLineHeight(cell);
-    const double textTop = lxTextMeasure::textTopInLineMm(font, lineHeight);
+    // Lines are tighter than the font's own line height; the rules above and below a row must
+    // not touch the accents of capitals, so those are kept inside the line too.
+    const double textTop =
+        ROW_PADDING_MM + lxTextMeasure::textTopInLineMm(font, lineHeight, lxTextMeasure::ACCENTED_CAP_HEIGHT);
     const double inner = width - 2 * CELL_PADDING_MM;
-    const auto lines = lxTextMeasure::wrapText(font, cell.value, lxTextMeasure::mmToPx(width * WRAP_SHARE));
+    const auto lines = Table::wrapCell(cell, width);
     for (size_t i = 0; i < lines.size(); ++i) {
         if (lines[i].empty()) continue;
         const double w = lxTextMeasure::pxToMm(lxTextMeasure::textWidthPx(font, lines[i]));
@@ -88,7 +89,7 @@ void TablePrintout::drawCell(const TableCell& cell, wxDC* dc, double x, double y
         else if (cell.alignment == wxTEXT_ALIGNMENT_CENTRE)
             tx = x + (width - w) / 2;
         const double ty = y + i * lineHeight + textTop;
-        // A word wider than a fixed column would run into its neighbour; cut it at the cell.
+        // Words are cut to fit, but a column narrower than one letter would still overflow.
         if (w > inner) {
             ClipScope clip(dc, toDc(x), toDc(y), toDc(x + width) - toDc(x), toDc(y + height) - toDc(y));
             dc->DrawText(lines[i], toDc(tx), toDc(ty));
@@ -100,8 +101,14 @@ void TablePrintout::drawCell(const TableCell& cell, wxDC* dc, double x, double y
 
 void TablePrintout::drawGrid(const Table& table, const TableRowsPerPage& rows, int firstColumn, int lastColumn,
                              wxDC* dc, double x, double y) {
-    double width = 0;
-    for (int c = firstColumn; c <= lastColumn; ++c) width += table.columnWidth(c);
+    std::vector<int> columns;
+    for (int c = std::max(0, firstColumn); c <= lastColumn; ++c) columns.push_back(c);
+    drawGrid(table, rows, columns, dc, x, y);
+}
+
+void TablePrintout::drawGrid(const Table& table, const TableRowsPerPage& rows, const std::vector<int>& columns,
+                             wxDC* dc, double x, double y) {
+    const double width = table.columnsWidth(columns);
     dc->SetPen(wxPen(wxColour(0, 0, 0), 1));
     double bottom = y;
     auto rule = [&](double at) { dc->DrawLine(toDc(x), toDc(at), toDc(x + width), toDc(at)); };
@@ -117,10 +124,14 @@ void TablePrintout::drawGrid(const Table& table, const TableRowsPerPage& rows, i
     if (bottom <= y) return;
     double cx = x;
     dc->DrawLine(toDc(cx), toDc(y), toDc(cx), toDc(bottom));
-    for (int c = firstColumn; c <= lastColumn; ++c) {
+    for (int c : columns) {
         cx += table.columnWidth(c);
         dc->DrawLine(toDc(cx), toDc(y), toDc(cx), toDc(bottom));
     }
+}
+
+double TablePrintout::tableLeftMm(const Layout& layout, double sheetWidthMm, double tableWidthMm) {
+    return layout.marginLeft + (sheetWidthMm - layout.marginLeft - layout.marginRight - tableWidthMm) * 0.5;
 }
 
 void TablePrintout::drawTitle(wxDC* dc, const TableTitle& title, double x, double y, double width, double height) {
@@ -140,17 +151,20 @@ void TablePrintout::drawTitle(wxDC* dc, const TableTitle& title, double x, doubl
 
 bool TablePrintout::drawTablePage(wxDC* dc, const Table& table, int rowPage, int firstColumn, int lastColumn,
                                   bool withTitle) {
+    std::vector<int> columns;
+    for (int c = std::max(0, firstColumn); c <= std::min(lastColumn, table.columns() - 1); ++c) columns.push_back(c);
+    return drawTablePage(dc, table, rowPage, columns, withTitle);
+}
+
+bool TablePrintout::drawTablePage(wxDC* dc, const Table& table, int rowPage, const std::vector<int>& columns,
+                                  bool withTitle) {
     const auto& pages = table.rowsPerPage();
     if (rowPage < 0 || rowPage >= static_cast<int>(pages.size())) return false;
-    firstColumn = std::max(0, firstColumn);
-    lastColumn = std::min(lastColumn, table.columns() - 1);
     m_styledDc = nullptr;  // the header and footer have changed the font
 
-    double width = 0;
-    for (int c = firstColumn; c <= lastColumn; ++c) width += table.columnWidth(c);
-    const Layout& l = layout();
-    const double x0 = l.marginLeft + (sheetWidthMm() - l.marginLeft - l.marginRight - width) * 0.5;
-    double y = l.marginTop;
+    const double width = table.columnsWidth(columns);
+    const double x0 = tableLeftMm(layout(), sheetWidthMm(), width);
+    double y = layout().marginTop;
     if (withTitle && table.tableTitle.isValid()) {
         drawTitle(dc, table.tableTitle, x0, y, width, table.titleHeight());
         y += table.titleHeight() + TITLE_GAP_MM;
@@ -158,7 +172,7 @@ bool TablePrintout::drawTablePage(wxDC* dc, const Table& table, int rowPage, int
     const double top = y;
     auto drawRow = [&](const lxTableCellArray& row, double height) {
         double x = x0;
-        for (int c = firstColumn; c <= lastColumn; ++c) {
+        for (int c : columns) {
             const TableCell& cell = c < static_cast<int>(row.size()) ? row[c] : emptyCell();
             drawCell(cell, dc, x, y, table.columnWidth(c), height);
             x += table.columnWidth(c);
@@ -168,7 +182,7 @@ bool TablePrintout::drawTablePage(wxDC* dc, const Table& table, int rowPage, int
     if (!table.header.empty()) drawRow(table.header, table.headerHeight());
     const TableRowsPerPage& rows = pages[rowPage];
     for (int r = rows.rowStart; r <= rows.rowEnd; ++r) drawRow(table.rows[r], table.rowHeight(r));
-    drawGrid(table, rows, firstColumn, lastColumn, dc, x0, top);
+    drawGrid(table, rows, columns, dc, x0, top);
     return true;
 }
 
@@ -179,9 +193,17 @@ bool TablePrintout::printPage(wxDC* dc, int page, double) {
 
 TablePrint::TablePrint(wxWindow* parent, const wxString& title) : lxPrintController(parent, title) {}
 
+void fitTablesToSheet(const std::vector<Table*>& tables, lxPrint::Layout& layout) {
+    for (const Table* table : tables)
+        if (layout.paperOrientation == wxPORTRAIT && table->tableWidth() > lxPrint::printableWidthMm(layout) + 1e-9)
+            layout.paperOrientation = wxLANDSCAPE;
+    for (Table* table : tables) table->fitToWidth(lxPrint::printableWidthMm(layout));
+}
+
 int TablePrint::paginate() {
     if (!m_table) return 1;
     m_table->refreshCellsSize();
+    fitTablesToSheet({m_table}, m_layout);
     return m_table->calculatePages(m_layout.marginTop, m_layout.marginBottom,
                                    lxPrint::usablePageHeightMm(m_layout.paperOrientation));
 }

@@ -18,12 +18,18 @@ class TablePrintout : public lxPrint {
     // the table's top left corner at (x, y) mm.
     void drawGrid(const Table& table, const TableRowsPerPage& rows, int firstColumn, int lastColumn, wxDC* dc, double x,
                   double y);
+    // The same for the given columns, left to right in that order.
+    void drawGrid(const Table& table, const TableRowsPerPage& rows, const std::vector<int>& columns, wxDC* dc, double x,
+                  double y);
+    // Left edge of a table `tableWidthMm` wide, centred between the margins.
+    static double tableLeftMm(const Layout& layout, double sheetWidthMm, double tableWidthMm);
 
  protected:
     bool printPage(wxDC* dc, int page, double mmFactor) override;
     // Draws row page `rowPage` of `table` with columns first ... last, centred between the
     // margins, with the title above it when asked.
     bool drawTablePage(wxDC* dc, const Table& table, int rowPage, int firstColumn, int lastColumn, bool withTitle);
+    bool drawTablePage(wxDC* dc, const Table& table, int rowPage, const std::vector<int>& columns, bool withTitle);
 
     const Table* m_table;
 
@@ -38,6 +44,11 @@ class TablePrintout : public lxPrint {
     wxColour m_colour;
 };
 
+// Makes tables fit the sheet: a portrait layout turns to landscape when a table is wider than
+// the portrait sheet's room, then each table still too wide is narrowed to the room (its
+// long texts wrap). The tables' widths must have been computed.
+void fitTablesToSheet(const std::vector<Table*>& tables, lxPrint::Layout& layout);
+
 class TablePrint : public lxPrintController {
  public:
     TablePrint(wxWindow* parent, const wxString& title);
@@ -46,6 +57,7 @@ class TablePrint : public lxPrintController {
     void setTable(Table* table) { m_table = table; }
     Table* table() const { return m_table; }
 
+    // Measures the table, fits it to the sheet (see fitTablesToSheet) and cuts it into pages.
     int paginate() override;
 
  protected:

@@ -118,7 +118,7 @@ FontMetrics& metricsFor(const wxFont& font) {
 
 // Walks the text once and reports each line as [start, end) character positions.
 template <typename LineFn>
-void forEachWrappedLine(const wxFont& font, const wxString& text, double limitPx, LineFn&& onLine) {
+void forEachWrappedLine(const wxFont& font, const wxString& text, double limitPx, bool breakWords, LineFn&& onLine) {
     FontMetrics& m = metricsFor(font);
     const size_t n = text.length();
     size_t start = 0;
@@ -136,7 +136,8 @@ void forEachWrappedLine(const wxFont& font, const wxString& text, double limitPx
             hasBreak = false;
             continue;
         }
-        width += m.advance(ch);
+        const double advance = m.advance(ch);
+        width += advance;
         if (ch == L' ' || ch == L'\t') {
             hasBreak = true;
             breakAt = i;
@@ -147,6 +148,12 @@ void forEachWrappedLine(const wxFont& font, const wxString& text, double limitPx
             start = breakAt + 1;
             width -= widthThroughBreak;
             hasBreak = false;
+        }
+        // What is left after the break point may still be one word too long for the line.
+        if (width > limitPx && !hasBreak && breakWords && i > start) {
+            onLine(start, i);
+            start = i;
+            width = advance;
         }
     }
     onLine(start, n);
@@ -194,29 +201,42 @@ double widestLinePx(const wxFont& font, const wxString& text) {
 
 double textHeightPx(const wxFont& font) { return metricsFor(font).height(); }
 
-double textTopInLineMm(const wxFont& font, double lineHeightMm) {
-    // Capitals of the common faces are about 0.72 of the font size tall.
-    constexpr double CAP_HEIGHT = 0.72;
+double textTopInLineMm(const wxFont& font, double lineHeightMm, double capShare) {
     FontMetrics& m = metricsFor(font);
     const double ascent = pxToMm(m.height() - m.descent());
     const double descent = pxToMm(m.descent());
-    const double capHeight = font.GetFractionalPointSize() * 25.4 / 72 * CAP_HEIGHT;
+    const double capHeight = font.GetFractionalPointSize() * 25.4 / 72 * capShare;
     const double baseline = (lineHeightMm + capHeight - descent) / 2;
     return baseline - ascent;
 }
 
-std::vector<wxString> wrapText(const wxFont& font, const wxString& text, double limitPx) {
+std::vector<wxString> wrapText(const wxFont& font, const wxString& text, double limitPx, bool breakWords) {
     std::vector<wxString> lines;
-    forEachWrappedLine(font, text, limitPx,
+    forEachWrappedLine(font, text, limitPx, breakWords,
                        [&](size_t from, size_t to) { lines.push_back(text.Mid(from, to - from)); });
     for (auto& line : lines) line.Replace("\r", wxEmptyString);
     return lines;
 }
 
-int wrappedLineCount(const wxFont& font, const wxString& text, double limitPx) {
+int wrappedLineCount(const wxFont& font, const wxString& text, double limitPx, bool breakWords) {
     int count = 0;
-    forEachWrappedLine(font, text, limitPx, [&](size_t, size_t) { ++count; });
+    forEachWrappedLine(font, text, limitPx, breakWords, [&](size_t, size_t) { ++count; });
     return count;
+}
+
+double longestWordPx(const wxFont& font, const wxString& text) {
+    FontMetrics& m = metricsFor(font);
+    double longest = 0, width = 0;
+    for (const auto ch : text) {
+        const wchar_t c = static_cast<wchar_t>(ch.GetValue());
+        if (c == L' ' || c == L'\t' || c == L'\n') {
+            longest = std::max(longest, width);
+            width = 0;
+        } else {
+            width += m.advance(c);
+        }
+    }
+    return std::max(longest, width);
 }
 
 void clearCache() {

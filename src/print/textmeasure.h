@@ -14,6 +14,11 @@
 
 namespace lxTextMeasure {
 
+// Capitals of the common faces are about 0.72 of the font size tall; with a caron or an acute
+// accent above them, about 0.92.
+constexpr double CAP_HEIGHT = 0.72;
+constexpr double ACCENTED_CAP_HEIGHT = 0.92;
+
 // Pixels per inch of the screen, read once.
 double screenPpi();
 double mmToPx(double mm);
@@ -28,15 +33,20 @@ double textHeightPx(const wxFont& font);
 // Where to put the top of drawn text in a line `lineHeightMm` tall, in mm from the line's
 // top: capitals and descenders are centred in the line. Print lines are tighter than the
 // font's own line height, so centring the whole text box would push descenders out.
-double textTopInLineMm(const wxFont& font, double lineHeightMm);
+// `capShare` is the height of what must fit, as a share of the font size: capitals by default,
+// capitals with their accents (Č, Ř, Š) where the line is boxed by rules.
+double textTopInLineMm(const wxFont& font, double lineHeightMm, double capShare = CAP_HEIGHT);
 
 // Breaks text into lines: each line feed starts a line; otherwise characters are added one
 // by one, the last space or tab is remembered, and once the line is wider than `limitPx`
 // and a break point exists in it, a new line starts after the break point (the space itself
-// is dropped). A word longer than the limit is never broken.
-std::vector<wxString> wrapText(const wxFont& font, const wxString& text, double limitPx);
+// is dropped). A word longer than the limit is not broken, unless `breakWords` is set: then it
+// is cut between characters where it reaches the limit, so that no line is wider than it.
+std::vector<wxString> wrapText(const wxFont& font, const wxString& text, double limitPx, bool breakWords = false);
 // The number of lines wrapText gives, without building them.
-int wrappedLineCount(const wxFont& font, const wxString& text, double limitPx);
+int wrappedLineCount(const wxFont& font, const wxString& text, double limitPx, bool breakWords = false);
+// Width of the widest word (text between spaces, tabs and line feeds).
+double longestWordPx(const wxFont& font, const wxString& text);
 
 // Forget measured fonts (the cache grows with every distinct font; templates have few).
 void clearCache();

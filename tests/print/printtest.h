@@ -30,7 +30,8 @@ class PrintTest : public ::testing::Test {
     // "Pages", "Title", "Author", "Creator", ... as pdfinfo prints them.
     static std::map<std::string, wxString> pdfInfo(const wxString& pdf);
     static int pdfPages(const wxString& pdf);
-    // The text of the whole file, or of one page.
+    // The text of the whole file, or of one page. pdftotext gives the no-break spaces
+    // between thousands as plain spaces.
     static wxString pdfText(const wxString& pdf, int page = 0);
     static std::vector<PdfWord> pdfWords(const wxString& pdf);
 

@@ -1,8 +1,7 @@
 // The first users of each print controller, written to PDF and read back.
 #include <gtest/gtest.h>
 
-#include "fulldenikprint.h"
-#include "pokladnidokladprint.h"
+#include "peneznidokladprint.h"
 #include "pokladniknihaprint.h"
 #include "prehledprint.h"
 #include "printtest.h"
@@ -24,26 +23,6 @@ TEST_F(ReportPrints, ContactListPrintsEveryContactWithItsAddress) {
         EXPECT_NE(text.Find(u8(expected)), wxNOT_FOUND) << expected;
 }
 
-TEST_F(ReportPrints, WideJournalIsSplitIntoColumnGroupsOnLandscapePages) {
-    wxArrayString sloupce;
-    for (int c = 0; c < 24; ++c) sloupce.push_back(wxString::Format(u8("Sloupec číslo %d"), c + 1));
-    std::vector<wxArrayString> radky(150);
-    for (int r = 0; r < 150; ++r)
-        for (int c = 0; c < 24; ++c) radky[r].push_back(wxString::Format("%d.%02d", r * 100 + c, c));
-    FullDenikPrint print(nullptr, u8("Účetní firma"), 2024, sloupce, radky, {5, 6});
-    ASSERT_TRUE(print.writePdf(path("denik.pdf"), ""));
-    const int pages = pdfPages(path("denik.pdf"));
-    ASSERT_TRUE(print.table());
-    const int groups = print.table()->numberOfColumnsSplit();
-    EXPECT_GT(groups, 1);
-    EXPECT_EQ(pages, print.table()->pagesWithoutSplit() * groups);
-    EXPECT_NE(pdfInfo(path("denik.pdf"))["Page size"].Find("841.89 x 595.27"), wxNOT_FOUND);
-    // The last column is on the last page of the first row page, not on the first page.
-    EXPECT_EQ(pdfText(path("denik.pdf"), 1).Find(u8("Sloupec číslo 24")), wxNOT_FOUND);
-    EXPECT_NE(pdfText(path("denik.pdf"), groups).Find(u8("Sloupec číslo 24")), wxNOT_FOUND);
-    EXPECT_NE(pdfText(path("denik.pdf"), groups + 1).Find(u8("Sloupec číslo 1")), wxNOT_FOUND);
-}
-
 TEST_F(ReportPrints, CashBookPrintsMovementsThenTotals) {
     std::vector<PokladniPohyb> pohyby{{"2.1.2024", "PP1", u8("Tržba za zboží"), 1500, 0},
                                       {"3.1.2024", "VP1", u8("Nákup kancelářských potřeb"), 0, 320.5},
@@ -53,32 +32,78 @@ TEST_F(ReportPrints, CashBookPrintsMovementsThenTotals) {
     EXPECT_EQ(pdfPages(path("pokladna.pdf")), 2);  // each table starts a page
     const wxString kniha = pdfText(path("pokladna.pdf"), 1);
     EXPECT_NE(kniha.Find(u8("Nákup kancelářských potřeb")), wxNOT_FOUND);
-    EXPECT_NE(kniha.Find("2179.50"), wxNOT_FOUND);  // running balance after the second line
+    EXPECT_NE(kniha.Find(u8("2 179,50")), wxNOT_FOUND);  // running balance after the second line
     const wxString souhrn = pdfText(path("pokladna.pdf"), 2);
     for (const char* expected :
-         {"Souhrn", "Počáteční stav", "1000.00", "1700.00", "320.50", "Konečný stav", "2379.50", "Stránka 2 z 2"})
+         {"Souhrn", "Počáteční stav", "1 000,00", "1 700,00", "320,50", "Konečný stav", "2 379,50", "Stránka 2 z 2"})
         EXPECT_NE(souhrn.Find(u8(expected)), wxNOT_FOUND) << expected;
 }
 
-TEST_F(ReportPrints, CashVoucherIsOnePageDocument) {
-    PokladniDoklad d;
-    d.cislo = "PP2024/007";
-    d.datum = "15.3.2024";
+struct VoucherCase {
+    const char* name;
+    bool banka;
+    bool prijem;
+    const char* nadpis;
+    std::vector<const char*> texty;  // labels, values and signatures the voucher shows
+    std::vector<const char*> chybi;  // what belongs to the other kind only
+};
+void PrintTo(const VoucherCase& c, std::ostream* os) { *os << c.name; }
+class Vouchers : public PrintTest, public ::testing::WithParamInterface<VoucherCase> {};
+
+TEST_P(Vouchers, OnePageWithTheRowsAndSignaturesOfItsKind) {
+    const VoucherCase& c = GetParam();
+    PenezniDoklad d;
+    d.banka = c.banka;
+    d.prijem = c.prijem;
+    d.cislo = "D2024/007";
+    d.datum = wxDateTime(15, wxDateTime::Mar, 2024);
     d.firma = u8("Účetní firma");
     d.firmaIc = "12345678";
+    d.ucet = "BU1  123456789/0800";
+    d.vypis = 3;
     d.partner = u8("Jiří Čermák");
     d.ucel = u8("Úhrada faktury FV2024/003");
+    d.reference = "2024003";
     d.castka = 1234.5;
-    PokladniDokladPrint print(nullptr, d);
-    const wxString pdf = print.CreatePDF(d.cislo, print.printTitle(), false);
+    PenezniDokladPrint print(nullptr, d);
+    const wxString pdf = print.CreatePDF("doklad", print.printTitle(), false);
     ASSERT_FALSE(pdf.empty());
     EXPECT_EQ(pdfPages(pdf), 1);
-    EXPECT_EQ(pdfInfo(pdf)["Title"], u8("Příjmový pokladní doklad PP2024/007"));
+    EXPECT_EQ(pdfInfo(pdf)["Title"], u8(c.nadpis));
     const wxString text = pdfText(pdf);
-    for (const char* expected : {"Příjmový pokladní doklad PP2024/007", "Přijato od", "Jiří Čermák", "1234.50 CZK",
-                                 "Zaplatil", "IČ: 12345678"})
+    for (const char* expected : {"Jiří Čermák", "Účel platby", "1 234,50 CZK", "15.03.2024", "IČ: 12345678"})
         EXPECT_NE(text.Find(u8(expected)), wxNOT_FOUND) << expected;
+    for (const char* expected : c.texty) EXPECT_NE(text.Find(u8(expected)), wxNOT_FOUND) << expected;
+    for (const char* other : c.chybi) EXPECT_EQ(text.Find(u8(other)), wxNOT_FOUND) << other;
 }
+
+INSTANTIATE_TEST_SUITE_P(Kinds, Vouchers,
+                         ::testing::Values(VoucherCase{"cash_income",
+                                                       false,
+                                                       true,
+                                                       "Příjmový pokladní doklad D2024/007",
+                                                       {"Přijato od", "Vystavil", "Zaplatil"},
+                                                       {"Bankovní účet", "Zaúčtoval"}},
+                                           VoucherCase{"cash_expense",
+                                                       false,
+                                                       false,
+                                                       "Výdajový pokladní doklad D2024/007",
+                                                       {"Vyplaceno komu", "Vystavil", "Přijal"},
+                                                       {"Číslo výpisu", "Zaplatil"}},
+                                           VoucherCase{"bank_income",
+                                                       true,
+                                                       true,
+                                                       "Bankovní doklad - příjem D2024/007",
+                                                       {"Bankovní účet", "123456789/0800", "Číslo výpisu",
+                                                        "Variabilní symbol", "2024003", "Přijato od", "Zaúčtoval"},
+                                                       {"Vystavil"}},
+                                           VoucherCase{"bank_expense",
+                                                       true,
+                                                       false,
+                                                       "Bankovní doklad - výdaj D2024/007",
+                                                       {"Zaplaceno komu", "Zaúčtoval"},
+                                                       {"Vyplaceno komu", "Přijal"}}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(ReportPrints, OverviewSetsTheSummariesInTwoColumnsRowBelowRow) {
     Prehled p;

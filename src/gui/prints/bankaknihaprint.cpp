@@ -1,9 +1,11 @@
 #include "bankaknihaprint.h"
 
+#include "lxformat.h"
+
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
-wxString castka(double value) { return wxString::Format("%.2f", value); }
+wxString castka(double value) { return lxformat::formatCastka(value); }
 
 }  // namespace
 
@@ -17,7 +19,7 @@ BankaKnihaPrint::BankaKnihaPrint(wxWindow* parent, const wxString& firma, int ro
     for (const BankovniUcet& ucet : ucty) {
         Table kniha;
         kniha.tableTitle.title =
-            ucet.nazev + wxString::Format(u8("\nPočáteční stav: %.2f %s"), ucet.pocatecniStav, ucet.mena);
+            ucet.nazev + u8("\nPočáteční stav: ") + lxformat::formatCastka(ucet.pocatecniStav, ucet.mena);
         for (const char* name : {"Datum", "Doklad", "Popis", "Příjem", "Výdej", "Zůstatek"})
             kniha.addCellToHeader(u8(name));
         kniha.setColumnWidth(2, 70);

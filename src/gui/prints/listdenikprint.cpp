@@ -1,9 +1,11 @@
 #include "listdenikprint.h"
 
+#include "lxformat.h"
+
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
-wxString castka(double value) { return wxString::Format("%.2f", value); }
+wxString castka(double value) { return lxformat::formatCastka(value); }
 
 }  // namespace
 
@@ -36,7 +38,7 @@ ListDenikPrint::ListDenikPrint(wxWindow* parent, const wxString& nadpis, const w
     m_denik.addRow();
     m_denik.addCell(u8("Celkem"));
     m_denik.addCell(wxString());
-    m_denik.addCell(wxString::Format(u8("Rozdíl: %.2f"), prijmy - vydaje));
+    m_denik.addCell(u8("Rozdíl: ") + castka(prijmy - vydaje));
     m_denik.addCell(wxString());
     m_denik.addCell(castka(prijmy), wxTEXT_ALIGNMENT_RIGHT);
     m_denik.addCell(castka(vydaje), wxTEXT_ALIGNMENT_RIGHT);

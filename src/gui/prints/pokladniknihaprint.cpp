@@ -1,9 +1,11 @@
 #include "pokladniknihaprint.h"
 
+#include "lxformat.h"
+
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
-wxString castka(double value) { return wxString::Format("%.2f", value); }
+wxString castka(double value) { return lxformat::formatCastka(value); }
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "simpledenikprint.h"
 
+#include "lxformat.h"
+
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
@@ -25,12 +27,12 @@ SimpleDenikPrint::SimpleDenikPrint(wxWindow* parent, const wxString& nadpis, con
         m_denik.addCell(r.datum);
         m_denik.addCell(r.cislo);
         m_denik.addCell(r.popis);
-        m_denik.addCell(wxString::Format("%.2f", castka), wxTEXT_ALIGNMENT_RIGHT);
+        m_denik.addCell(lxformat::formatCastka(castka), wxTEXT_ALIGNMENT_RIGHT);
     }
     m_denik.addRow();
     m_denik.addCell(u8("Celkem"));
     m_denik.addCell(wxString());
     m_denik.addCell(wxString());
-    m_denik.addCell(wxString::Format("%.2f", saldo), wxTEXT_ALIGNMENT_RIGHT);
+    m_denik.addCell(lxformat::formatCastka(saldo), wxTEXT_ALIGNMENT_RIGHT);
     setTable(&m_denik);
 }

@@ -1,5 +1,7 @@
 #include "stavuctuprint.h"
 
+#include "lxformat.h"
+
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
@@ -17,7 +19,7 @@ Table tabulka(const char* title, const std::vector<StavUctuRadek>& radky) {
         t.addCell(r.zkratka);
         t.addCell(r.popis);
         t.addCell(r.mena);
-        t.addCell(wxString::Format("%.2f", r.stav), wxTEXT_ALIGNMENT_RIGHT);
+        t.addCell(lxformat::formatCastka(r.stav), wxTEXT_ALIGNMENT_RIGHT);
     }
     return t;
 }
