@@ -314,13 +314,26 @@ void PrijemVydejDialog::focusField(DenikPole pole) {
     }
     wxTextCtrl* field = nullptr;
     switch (pole) {
-        case DenikPole::CISLO: field = m_cislo; break;
-        case DenikPole::REGISTR: field = m_registr; break;
-        case DenikPole::PREDKONTACE: field = m_predkontace; break;
-        case DenikPole::CASTKA: field = m_castka; break;
-        case DenikPole::CASTKACIZI: field = m_castkaCizi; break;
-        case DenikPole::KURZ: field = m_kurz; break;
-        default: return;
+        case DenikPole::CISLO:
+            field = m_cislo;
+            break;
+        case DenikPole::REGISTR:
+            field = m_registr;
+            break;
+        case DenikPole::PREDKONTACE:
+            field = m_predkontace;
+            break;
+        case DenikPole::CASTKA:
+            field = m_castka;
+            break;
+        case DenikPole::CASTKACIZI:
+            field = m_castkaCizi;
+            break;
+        case DenikPole::KURZ:
+            field = m_kurz;
+            break;
+        default:
+            return;
     }
     field->SetFocus();
     field->SelectAll();

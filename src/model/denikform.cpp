@@ -59,8 +59,8 @@ wxString denikValidation(DbModel& model, const DenikForm& form, DenikPole* pole)
     if (!form.datum.IsValid()) return fail(DenikPole::DATUM, lxformat::datumZprava(u8("Datum"), wxString()));
     const int rok = model.currentRok();
     if (form.datum.GetYear() != rok) {
-        return fail(DenikPole::DATUM, wxString::Format(u8("Datum %s není v účetním období %d"),
-                                                       lxformat::formatDatum(form.datum), rok));
+        return fail(DenikPole::DATUM,
+                    wxString::Format(u8("Datum %s není v účetním období %d"), lxformat::formatDatum(form.datum), rok));
     }
     // An empty number takes the series' next one when stored. An edit and a saved copy
     // (stored already by copyDenik) may keep their own number.

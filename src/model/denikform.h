@@ -15,7 +15,6 @@
 
 #include "dbmodel.h"
 
-
 // The fields of the income/expense dialog.
 struct DenikForm {
     enum Mode { ADD = 0, EDIT = 1, COPY = 2 };

@@ -4,7 +4,9 @@
 #include <gmock/gmock.h>
 #include <wx/app.h>
 #include <wx/button.h>
+#include <wx/calctrl.h>
 #include <wx/choice.h>
+#include <wx/generic/calctrlg.h>
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -107,9 +109,9 @@ TEST_F(DenikDialog, TypedDateIsTheDateStored) {
         const char* typed;
         const char* stored;
     };
-    for (const Case& c : {Case{"15.10.2024", "2024-10-15"}, Case{"15.10.", "2024-10-15"},
-                          Case{"2024-10-15", "2024-10-15"}, Case{" 5. 3. 2024 ", "2024-03-05"},
-                          Case{"31.12.", "2024-12-31"}}) {
+    for (const Case& c :
+         {Case{"15.10.2024", "2024-10-15"}, Case{"15.10.", "2024-10-15"}, Case{"2024-10-15", "2024-10-15"},
+          Case{" 5. 3. 2024 ", "2024-03-05"}, Case{"31.12.", "2024-12-31"}}) {
         PrijemVydejDialog dialog(m_frame, true, false);
         const Outcome o = fillAndOk(dialog, [&](wxDialog* d) {
             fillIncome(d);
@@ -126,8 +128,8 @@ TEST_F(DenikDialog, TypedAmountIsStoredAsTyped) {
         const char* typed;
         double stored;
     };
-    for (const Case& c : {Case{"1.250,00", 1250}, Case{"1 250,50", 1250.5}, Case{"1250.5", 1250.5},
-                          Case{"0,1", 0.1}, Case{"1234,5678901", 1234.5678901}, Case{u8"12\u00A0500 Kč", 12500}}) {
+    for (const Case& c : {Case{"1.250,00", 1250}, Case{"1 250,50", 1250.5}, Case{"1250.5", 1250.5}, Case{"0,1", 0.1},
+                          Case{"1234,5678901", 1234.5678901}, Case{u8"12\u00A0500 Kč", 12500}}) {
         PrijemVydejDialog dialog(m_frame, true, false);
         ASSERT_TRUE(fillAndOk(dialog, [&](wxDialog* d) { fillIncome(d, c.typed); }).closed) << c.typed;
         EXPECT_EQ(stored(dialog).castka(), c.stored) << c.typed;
@@ -143,8 +145,9 @@ TEST_F(DenikDialog, FieldThatDoesNotReadIsRefusedWithTheFocusOnIt) {
     };
     const Case cases[] = {
         {"castka", "12,5x", "Částka v Kč: „12,5x“ není platná částka.\nZadejte například 1250, 1 250,50 nebo 1250.50."},
-        {"castka", "12.500", "Částka v Kč: „12.500“ je nejednoznačné.\nDesetinnou část oddělte čárkou (12,5), "
-                             "tisíce mezerou (12 500)."},
+        {"castka", "12.500",
+         "Částka v Kč: „12.500“ je nejednoznačné.\nDesetinnou část oddělte čárkou (12,5), "
+         "tisíce mezerou (12 500)."},
         {"castka", "", "Částka v Kč: zadejte částku"},
         {"datumText", "31.2.2024", "Datum: „31.2.2024“ není platné datum.\nZadejte například 15.10.2026."},
         {"datumText", "zítra", "Datum: „zítra“ není platné datum.\nZadejte například 15.10.2026."},
@@ -386,4 +389,52 @@ TEST_F(DenikDialog, EnterInAFieldPressesOk) {
     ASSERT_TRUE(typed);
     ASSERT_EQ(result, wxID_OK) << m_prompts.transcript();
     EXPECT_EQ(m_model->getDenik(dialog.denikId()).castka(), 1250.5);
+}
+
+TEST_F(DenikDialog, DayClickedInThePopUpCalendarIsTaken) {
+    PrijemVydejDialog dialog(m_frame, true, false);
+    auto* datum = field<lxDateCtrl>(&dialog, "datum");
+    wxDateTime shown;
+    bool popupClosed = false;
+    wxTheApp->CallAfter([&] {
+        datum->showCalendar();
+        auto* calendar = dynamic_cast<wxGenericCalendarCtrl*>(wxWindow::FindWindowByName("kalendar", datum));
+        ASSERT_NE(calendar, nullptr);
+        for (int i = 0; i < 20; ++i) {
+            wxYield();
+            wxMilliSleep(20);
+        }
+        // Finds where the 19th of the shown month is drawn and clicks there, as a person would.
+        wxPoint at = wxDefaultPosition;
+        const wxSize size = calendar->GetClientSize();
+        for (int y = 0; y < size.y && at == wxDefaultPosition; y += 3)
+            for (int x = 0; x < size.x && at == wxDefaultPosition; x += 3) {
+                wxDateTime day;
+                if (calendar->HitTest(wxPoint(x, y), &day) == wxCAL_HITTEST_DAY && day.GetDay() == 19 &&
+                    day.GetMonth() == wxDateTime::Jun)
+                    at = wxPoint(x + 4, y + 4);
+            }
+        ASSERT_NE(at, wxDefaultPosition);
+        wxUIActionSimulator sim;
+        sim.MouseMove(calendar->ClientToScreen(at));
+        sim.MouseClick();
+        for (int i = 0; i < 50 && datum->text() == "01.06.2024"; ++i) {
+            wxYield();
+            wxMilliSleep(20);
+        }
+        shown = datum->GetValue();
+        const auto open = [datum] {
+            wxWindow* popup = wxWindow::FindWindowByName("kalendar", datum);
+            return popup && popup->IsShownOnScreen();
+        };
+        for (int i = 0; i < 50 && open(); ++i) {
+            wxYield();
+            wxMilliSleep(20);
+        }
+        popupClosed = !open();
+        dialog.EndModal(wxID_CANCEL);
+    });
+    dialog.ShowModal();
+    EXPECT_EQ(shown.FormatISODate(), "2024-06-19");
+    EXPECT_TRUE(popupClosed);
 }

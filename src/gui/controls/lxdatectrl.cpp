@@ -2,8 +2,8 @@
 
 #include <wx/button.h>
 #include <wx/calctrl.h>
-#include <wx/generic/calctrlg.h>
 #include <wx/dateevt.h>
+#include <wx/generic/calctrlg.h>
 #include <wx/popupwin.h>
 #include <wx/sizer.h>
 #include <wx/textctrl.h>
@@ -64,8 +64,8 @@ lxDateCtrl::lxDateCtrl(wxWindow* parent, const wxString& name, const wxDateTime&
     // Wide enough for "23.11.2026" and a little more.
     m_text = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(110, -1), 0, wxDefaultValidator,
                             name + "Text");
-    m_button = new wxButton(this, wxID_ANY, "...", wxDefaultPosition, wxSize(30, -1), wxBU_EXACTFIT,
-                            wxDefaultValidator, name + "Kalendar");
+    m_button = new wxButton(this, wxID_ANY, "...", wxDefaultPosition, wxSize(30, -1), wxBU_EXACTFIT, wxDefaultValidator,
+                            name + "Kalendar");
     m_button->SetToolTip(wxString::FromUTF8("Vybrat datum v kalendáři"));
     auto* sizer = new wxBoxSizer(wxHORIZONTAL);
     sizer->Add(m_text, wxSizerFlags(1).CentreVertical());

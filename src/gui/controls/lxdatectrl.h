@@ -37,13 +37,12 @@ class lxDateCtrl : public wxPanel {
     void SetFocus() override;
     bool Enable(bool enable = true) override;
 
- // Takes the typed text as the field's date: shows it in its Czech form and announces it when
+    // Takes the typed text as the field's date: shows it in its Czech form and announces it when
     // it differs from the date before. Done when the focus leaves the text; a dialog calls it
     // before reading the field when Enter pressed OK with the focus still in the text.
     void commitText();
 
  private:
-
     wxTextCtrl* m_text = nullptr;
     wxButton* m_button = nullptr;
     int m_rok;
