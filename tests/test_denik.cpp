@@ -180,7 +180,7 @@ TEST_F(Journal, ValidationReportsTheFirstFaultInFieldOrder) {
         {true, "POK1", "P001", "Bankovní účet POK1 neexistuje", DenikPole::REGISTR},
         {false, "POK2", "", "Předkontace nemůže být prázdná", DenikPole::PREDKONTACE},
         {true, "BU1", "Z'9", "Předkontace Z'9 neexistuje", DenikPole::PREDKONTACE},
-        {true, "BU2", "V001", "", DenikPole::ZADNE},
+        {true, "BU2", "P001", "", DenikPole::ZADNE},
     };
     for (const Case& c : cases) {
         DenikForm f = form();
@@ -202,6 +202,147 @@ TEST_F(Journal, ValidationReportsTheFirstFaultInFieldOrder) {
     EXPECT_EQ(m_model->getKontaktIdByNazev("Nikdo"), -1);
     EXPECT_EQ(m_model->getRadaCislo("PP"), 1);
     EXPECT_TRUE(m_events.updates.empty());
+}
+
+TEST_F(Journal, EntryMustFitItsDialogItsYearAndAFreeNumber) {
+    entry("P001", 10, "2024-02-01");  // number D1 in 2024
+    const int old = entry("P001", 10, "2023-02-01", 1, 2023);  // number D2 in 2023
+    struct Case {
+        const char* name;
+        bool prijem;
+        const char* predkontace;
+        const char* datum;  // ISO; empty for no date
+        const char* cislo;
+        DenikForm::Mode mode;
+        int id;
+        const char* message;
+        DenikPole pole;
+    };
+    const Case cases[] = {
+        {"expense_code_in_income_dialog", true, "V001", "2024-05-02", "PP0001", DenikForm::ADD, -1,
+         "Předkontace V001 je výdajová, zadejte příjmovou", DenikPole::PREDKONTACE},
+        {"income_code_in_expense_dialog", false, "P003", "2024-05-02", "PV0001", DenikForm::ADD, -1,
+         "Předkontace P003 je příjmová, zadejte výdajovou", DenikPole::PREDKONTACE},
+        // The transit columns cross their labels; the pre-posting's own flag decides.
+        {"transit_income_is_income", true, "P201", "2024-05-02", "PP0001", DenikForm::ADD, -1, "",
+         DenikPole::ZADNE},
+        {"transit_expense_in_income_dialog", true, "V201", "2024-05-02", "PP0001", DenikForm::ADD, -1,
+         "Předkontace V201 je výdajová, zadejte příjmovou", DenikPole::PREDKONTACE},
+        {"direction_before_date", true, "V001", "2026-11-23", "PP0001", DenikForm::ADD, -1,
+         "Předkontace V001 je výdajová, zadejte příjmovou", DenikPole::PREDKONTACE},
+        {"year_before", true, "P001", "2023-12-31", "PP0001", DenikForm::ADD, -1,
+         "Datum 31.12.2023 není v účetním období 2024", DenikPole::DATUM},
+        {"year_after", true, "P001", "2025-01-01", "PP0001", DenikForm::ADD, -1,
+         "Datum 01.01.2025 není v účetním období 2024", DenikPole::DATUM},
+        {"no_date", true, "P001", "", "PP0001", DenikForm::ADD, -1, "Datum: „“ není platné datum.\nZadejte "
+         "například 15.10.2026.", DenikPole::DATUM},
+        {"first_and_last_day", true, "P001", "2024-12-31", "PP0001", DenikForm::ADD, -1, "", DenikPole::ZADNE},
+        {"number_taken", true, "P001", "2024-05-02", "D1", DenikForm::ADD, -1, "Doklad s číslem D1 už existuje",
+         DenikPole::CISLO},
+        {"number_taken_typed_with_blanks", true, "P001", "2024-05-02", " D1 ", DenikForm::ADD, -1,
+         "Doklad s číslem D1 už existuje", DenikPole::CISLO},
+        {"edit_keeps_its_number", true, "P001", "2024-05-02", "D1", DenikForm::EDIT, 1, "", DenikPole::ZADNE},
+        {"edit_takes_anothers_number", true, "P001", "2024-05-02", "D1", DenikForm::EDIT, 5,
+         "Doklad s číslem D1 už existuje", DenikPole::CISLO},
+        {"empty_number_takes_the_series", true, "P001", "2024-05-02", "", DenikForm::ADD, -1, "", DenikPole::ZADNE},
+    };
+    for (const Case& c : cases) {
+        DenikForm f = form();
+        f.prijem = c.prijem;
+        f.predkontace = c.predkontace;
+        f.datum = *c.datum ? iso(c.datum) : wxDateTime();
+        f.cislo = u8(c.cislo);
+        f.mode = c.mode;
+        f.id = c.id;
+        DenikPole pole = DenikPole::ZADNE;
+        EXPECT_EQ(denikValidation(*m_model, f, &pole), u8(c.message)) << c.name;
+        EXPECT_EQ(pole, c.pole) << c.name;
+    }
+    // A number of an earlier year is free again in this one.
+    DenikForm f = form();
+    f.cislo = "D2";
+    EXPECT_EQ(denikValidation(*m_model, f), "");
+    EXPECT_TRUE(m_model->hasDenikCislo("D2", 2023, -1));
+    EXPECT_FALSE(m_model->hasDenikCislo("D2", 2023, old));
+}
+
+TEST(CashBalance, LowestBalanceFromTheEntrysDayOn) {
+    const auto day = [](const char* text) { return iso(text); };
+    const std::vector<DbModel::DenniPohyb> pohyby = {
+        {day("2023-12-30"), 100}, {day("2024-03-01"), 500}, {day("2024-03-10"), -450}, {day("2024-04-01"), 200}};
+    struct Case {
+        const char* name;
+        const char* datum;
+        double zmena;
+        double nejnizsi;
+    };
+    const Case cases[] = {
+        {"after_everything", "2024-05-01", -300, 50},
+        {"before_an_income_that_saves_it", "2024-02-01", -150, -50},
+        // 100 - 550 + 500 at the end of the day, then -450 on the 10th.
+        {"same_day_as_an_income_counts_it", "2024-03-01", -550, -400},
+        {"later_expense_shows_the_low_point", "2024-03-05", -200, -50},
+        {"zero_is_not_below", "2024-04-02", -350, 0},
+        {"into_an_empty_register", "2020-01-01", -10, -10},
+    };
+    for (const Case& c : cases) {
+        EXPECT_DOUBLE_EQ(nejnizsiStav(pohyby, day(c.datum), c.zmena), c.nejnizsi) << c.name;
+    }
+    EXPECT_DOUBLE_EQ(nejnizsiStav({}, day("2024-01-01"), -5), -5);
+}
+
+TEST_F(Journal, CashExpenseBelowZeroAsksWithTheLowestBalance) {
+    ASSERT_TRUE(m_model->addPokladna(Pokladna(3, "EUR1", "", 2)));  // a euro register
+    entry("P001", 1000, "2024-03-01");
+    const int vydaj = entry("V001", 300, "2024-03-05");
+    DenikForm f = form();
+    f.prijem = false;
+    f.predkontace = "V001";
+    f.cislo = "PV0001";
+    struct Case {
+        const char* name;
+        bool banka;
+        const char* registr;
+        const char* datum;
+        double castka;
+        double castkacizi;
+        DenikForm::Mode mode;
+        int id;
+        const char* dotaz;
+    };
+    const Case cases[] = {
+        {"stays_at_zero", false, "POK1", "2024-05-02", 700, 0, DenikForm::ADD, -1, ""},
+        {"goes_below", false, "POK1", "2024-05-02", 700.5, 0, DenikForm::ADD, -1,
+         "Stav pokladny POK1 bude záporný (-0,50 Kč). Přesto uložit?"},
+        {"before_the_income", false, "POK1", "2024-02-01", 10, 0, DenikForm::ADD, -1,
+         "Stav pokladny POK1 bude záporný (-10,00 Kč). Přesto uložit?"},
+        {"edit_replaces_its_old_amount", false, "POK1", "2024-03-05", 1000, 0, DenikForm::EDIT, vydaj, ""},
+        {"edit_above_the_balance", false, "POK1", "2024-03-05", 1250.25, 0, DenikForm::EDIT, vydaj,
+         "Stav pokladny POK1 bude záporný (-250,25 Kč). Přesto uložit?"},
+        {"other_register", false, "POK2", "2024-05-02", 1000, 0, DenikForm::ADD, -1,
+         "Stav pokladny POK2 bude záporný (-1 000,00 Kč). Přesto uložit?"},
+        {"foreign_register_counts_foreign_amount", false, "EUR1", "2024-05-02", 2500, 100, DenikForm::ADD, -1,
+         "Stav pokladny EUR1 bude záporný (-100,00 EUR). Přesto uložit?"},
+        {"bank_never_asks", true, "BU1", "2024-05-02", 1e6, 0, DenikForm::ADD, -1, ""},
+    };
+    for (const Case& c : cases) {
+        DenikForm x = f;
+        x.banka = c.banka;
+        x.registr = c.registr;
+        x.datum = iso(c.datum);
+        x.castka = c.castka;
+        x.castkacizi = c.castkacizi;
+        x.menaid = c.castkacizi > 0 ? 2 : 1;
+        x.mode = c.mode;
+        x.id = c.id;
+        wxString expected = u8(c.dotaz);
+        expected.Replace(" 000", wxString(wxUniChar(0x00A0)) + "000");  // groups as formatCastka writes them
+        EXPECT_EQ(zapornaPokladnaDotaz(*m_model, x), expected) << c.name;
+    }
+    // An income never asks, however the register stands.
+    DenikForm prijem = form();
+    prijem.registr = "POK2";
+    EXPECT_EQ(zapornaPokladnaDotaz(*m_model, prijem), "");
 }
 
 TEST_F(Journal, SavingANewEntryCreatesTheCounterpartyOnceAndAdvancesItsSeries) {

@@ -2,17 +2,21 @@
 
 #include <wx/button.h>
 #include <wx/choice.h>
-#include <wx/datectrl.h>
 #include <wx/dateevt.h>
 #include <wx/sizer.h>
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
+#include <wx/utils.h>
+
+#include <algorithm>
 
 #include "BankyDialog.h"
 #include "KontaktyDialog.h"
 #include "PokladnyDialog.h"
 #include "PredkontacesDialog.h"
+#include "controls/lxamountctrl.h"
+#include "controls/lxdatectrl.h"
 #include "dbmodel.h"
 #include "lxsettings.h"
 #include "prompts.h"
@@ -26,25 +30,17 @@ DbModel* openModel() {
     return model && model->isOpen() ? model : nullptr;
 }
 
-// Amounts are typed with a decimal comma or point.
-double parseAmount(const wxString& text) {
-    wxString t = text;
-    t.Replace(",", ".");
-    t.Replace(" ", "");
-    double value = 0;
-    return t.ToCDouble(&value) ? value : 0;
-}
-
-wxString formatAmount(double value) {
-    wxString text = wxString::FromCDouble(value, 4);
-    // Trailing zeros of the fraction say nothing.
-    while (text.Contains(".") && (text.EndsWith("0") || text.EndsWith("."))) text.RemoveLast();
-    return text.empty() ? wxString("0") : text;
-}
-
 wxButton* chooserButton(wxWindow* parent, const char* name) {
     return new wxButton(parent, wxID_ANY, "...", wxDefaultPosition, wxSize(30, -1), wxBU_EXACTFIT, wxDefaultValidator,
                         name);
+}
+
+// A label as the messages name its field: without the colon.
+wxString fieldName(const wxStaticText* label) {
+    wxString name = label->GetLabel();
+    name.Trim(true);
+    if (name.EndsWith(":")) name.RemoveLast();
+    return name;
 }
 
 }  // namespace
@@ -59,21 +55,25 @@ PrijemVydejDialog::PrijemVydejDialog(wxWindow* parent, bool prijem, bool banka, 
     build();
 
     DbModel* model = openModel();
-    if (!model) return;
-    if (mode != DenikForm::ADD) {
-        const Denik denik = model->getDenik(id);
-        if (denik.isValid()) load(denik);
-    } else {
-        const wxDateTime datum = lxSettings::instance()->datum();
-        if (datum.IsValid()) m_datum->SetValue(datum);
-        m_cislo->ChangeValue(navrhCislaDenik(*model, prijem, banka));
-        m_registr->ChangeValue(banka ? model->getBankaZkratka(1) : model->getPokladnaZkratka(1));
-        if (banka) m_vypis->SetValue(model->getLastVypis(1));
+    if (model) {
+        // "15.10." is a day of the accounting year.
+        m_datum->setRok(model->currentRok());
+        if (mode != DenikForm::ADD) {
+            const Denik denik = model->getDenik(id);
+            if (denik.isValid()) load(denik);
+        } else {
+            const wxDateTime datum = lxSettings::instance()->datum();
+            if (datum.IsValid()) m_datum->SetValue(datum);
+            m_registr->ChangeValue(banka ? model->getBankaZkratka(1) : model->getPokladnaZkratka(1));
+            if (banka) m_vypis->SetValue(model->getLastVypis(1));
+        }
     }
     m_typ->SetSelection(m_form.banka ? 1 : 0);
     setBanka(m_form.banka);
-    if (mode == DenikForm::ADD) m_cislo->ChangeValue(navrhCislaDenik(*model, prijem, m_form.banka));
+    if (model && mode == DenikForm::ADD) m_cislo->ChangeValue(navrhCislaDenik(*model, prijem, m_form.banka));
     showhideKurz();
+    // Opens at the size of the fields it shows; fields that appear later grow it.
+    GetSizer()->SetSizeHints(this);
     m_popis->SetFocus();
 }
 
@@ -89,11 +89,11 @@ void PrijemVydejDialog::build() {
         return new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(width, -1), 0, wxDefaultValidator,
                               name);
     };
-    auto row = [&](wxWindow* a, wxWindow* b = nullptr, wxWindow* c = nullptr) {
+    auto row = [&](wxWindow* a, wxWindow* b = nullptr) {
         auto* box = new wxBoxSizer(wxHORIZONTAL);
-        for (wxWindow* w : {a, b, c})
-            if (w) box->Add(w, wxSizerFlags().CentreVertical().Border(wxRIGHT, 4));
-        grid->Add(box);
+        box->Add(a, wxSizerFlags(a == m_popis || a == m_protistrana ? 1 : 0).CentreVertical());
+        if (b) box->Add(b, wxSizerFlags().CentreVertical().Border(wxLEFT, 4));
+        grid->Add(box, wxSizerFlags().Expand());
     };
 
     label("Typ:");
@@ -104,8 +104,7 @@ void PrijemVydejDialog::build() {
     row(m_typ);
 
     label("Datum:");
-    m_datum = new wxDatePickerCtrl(this, wxID_ANY, wxDefaultDateTime, wxDefaultPosition, wxDefaultSize,
-                                   wxDP_DROPDOWN | wxDP_SHOWCENTURY, wxDefaultValidator, "datum");
+    m_datum = new lxDateCtrl(this, "datum");
     row(m_datum);
     label("Číslo dokladu:");
     m_cislo = text("cislo", 150);
@@ -121,13 +120,13 @@ void PrijemVydejDialog::build() {
     m_registr = text("registr", 120);
     m_registrButton = chooserButton(this, "registrVybrat");
     m_vypisLabel = new wxStaticText(this, wxID_ANY, u8("Číslo výpisu:"));
-    m_vypis = new wxSpinCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxSize(100, -1), wxSP_ARROW_KEYS, 0,
+    m_vypis = new wxSpinCtrl(this, wxID_ANY, wxEmptyString, wxDefaultPosition, wxDefaultSize, wxSP_ARROW_KEYS, 0,
                              100000, 0, "vypis");
     auto* registrRow = new wxBoxSizer(wxHORIZONTAL);
     registrRow->Add(m_registr, wxSizerFlags().CentreVertical());
-    registrRow->Add(m_registrButton, wxSizerFlags().CentreVertical().Border(wxRIGHT, 12));
-    registrRow->Add(m_vypisLabel, wxSizerFlags().CentreVertical().Border(wxRIGHT, 4));
-    registrRow->Add(m_vypis, wxSizerFlags().CentreVertical());
+    registrRow->Add(m_registrButton, wxSizerFlags().CentreVertical().Border(wxLEFT, 4));
+    registrRow->Add(m_vypisLabel, wxSizerFlags().CentreVertical().Border(wxLEFT, 16));
+    registrRow->Add(m_vypis, wxSizerFlags().CentreVertical().Border(wxLEFT, 8));
     grid->Add(registrRow);
 
     label("Předkontace:");
@@ -140,13 +139,13 @@ void PrijemVydejDialog::build() {
         new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxArrayString(), 0, wxDefaultValidator, "mena");
     row(m_mena);
     label("Částka v Kč:");
-    m_castka = text("castka", 150);
+    m_castka = new lxAmountCtrl(this, lxAmountCtrl::CASTKA, "castka");
     row(m_castka);
     m_castkaCiziLabel = label("Částka v cizí měně:");
-    m_castkaCizi = text("castkacizi", 150);
+    m_castkaCizi = new lxAmountCtrl(this, lxAmountCtrl::CASTKA, "castkacizi");
     row(m_castkaCizi);
     m_kurzLabel = label("Kurz:");
-    m_kurz = text("kurz", 100);
+    m_kurz = new lxAmountCtrl(this, lxAmountCtrl::KURZ, "kurz", 120);
     m_kurzButton = new wxButton(this, wxID_ANY, u8("Stáhnout kurz z webu ČNB"), wxDefaultPosition, wxDefaultSize, 0,
                                 wxDefaultValidator, "stahnoutKurz");
     row(m_kurz, m_kurzButton);
@@ -176,14 +175,17 @@ void PrijemVydejDialog::build() {
         }
     }
     if (m_mena->GetCount() > 0) m_mena->SetSelection(0);
-    m_kurz->ChangeValue("1");
+    m_kurz->SetValue(1.0);
 
     auto* top = new wxBoxSizer(wxVERTICAL);
     top->Add(grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
     auto* buttons = new wxStdDialogButtonSizer();
-    buttons->AddButton(new wxButton(this, wxID_OK, "OK"));
+    auto* ok = new wxButton(this, wxID_OK, "OK");
+    buttons->AddButton(ok);
     buttons->AddButton(new wxButton(this, wxID_CANCEL, u8("Zrušit")));
     buttons->Realize();
+    // Enter in a single-line field presses OK, as in any native dialog.
+    ok->SetDefault();
     top->Add(buttons, wxSizerFlags().Expand().Border(wxALL, 10));
     SetSizerAndFit(top);
 
@@ -221,11 +223,10 @@ void PrijemVydejDialog::load(const Denik& denik) {
     m_predkontace->ChangeValue(model->getPredkontace(denik.predkontaceid()).zkratka());
     for (size_t i = 0; i < m_menaIds.size(); ++i)
         if (m_menaIds[i] == denik.menaid()) m_mena->SetSelection(static_cast<int>(i));
-    m_calculating = true;
-    setAmount(m_castka, denik.castka());
-    setAmount(m_castkaCizi, denik.castkacizi());
-    setAmount(m_kurz, denik.kurz());
-    m_calculating = false;
+    // The stored values themselves, not their display: OK without a change stores them unchanged.
+    m_castka->SetValue(denik.castka());
+    m_castkaCizi->SetValue(denik.castkacizi());
+    m_kurz->SetValue(denik.kurz());
     if (m_pausal && denik.pausal() > 0) {
         const wxString value = wxString::Format("%d", denik.pausal());
         if (m_pausal->FindString(value) == wxNOT_FOUND) m_pausal->Append(value);
@@ -239,20 +240,36 @@ int PrijemVydejDialog::menaId() const {
     return sel >= 0 && sel < static_cast<int>(m_menaIds.size()) ? m_menaIds[sel] : 1;
 }
 
-void PrijemVydejDialog::setAmount(wxTextCtrl* field, double value) { field->ChangeValue(formatAmount(value)); }
-
-DenikForm PrijemVydejDialog::readForm() const {
+DenikForm PrijemVydejDialog::readForm(DenikPole* chyba, wxString* zprava) const {
     DenikForm form = m_form;
+    bool failed = false;
+    auto fail = [&](DenikPole pole, const wxString& text) {
+        if (failed) return;
+        failed = true;
+        if (chyba) *chyba = pole;
+        if (zprava) *zprava = text;
+    };
+    if (chyba) *chyba = DenikPole::ZADNE;
     form.datum = m_datum->GetValue();
+    if (!form.datum.IsValid()) fail(DenikPole::DATUM, lxformat::datumZprava(u8("Datum"), m_datum->text()));
     form.cislo = m_cislo->GetValue().Strip(wxString::both);
     form.popis = m_popis->GetValue().Strip(wxString::both);
     form.reference = m_reference->GetValue().Strip(wxString::both);
     form.registr = m_registr->GetValue().Strip(wxString::both);
     form.predkontace = m_predkontace->GetValue().Strip(wxString::both);
     form.menaid = menaId();
-    form.castka = parseAmount(m_castka->GetValue());
-    form.castkacizi = form.menaid == 1 ? 0 : parseAmount(m_castkaCizi->GetValue());
-    form.kurz = form.menaid == 1 ? 1 : parseAmount(m_kurz->GetValue());
+    const auto amount = [&](const lxAmountCtrl* field, const wxString& name, DenikPole pole, double* value) {
+        *value = 0;
+        if (field->GetValue(value) != lxformat::Chyba::ZADNA) fail(pole, field->zprava(name));
+    };
+    amount(m_castka, u8("Částka v Kč"), DenikPole::CASTKA, &form.castka);
+    if (form.menaid == 1) {
+        form.castkacizi = 0;
+        form.kurz = 1;
+    } else {
+        amount(m_castkaCizi, fieldName(m_castkaCiziLabel), DenikPole::CASTKACIZI, &form.castkacizi);
+        amount(m_kurz, u8("Kurz"), DenikPole::KURZ, &form.kurz);
+    }
     form.vypis = form.banka ? m_vypis->GetValue() : 0;
     form.pausal = 0;
     if (m_pausal) parsePausal(m_pausal->GetStringSelection(), &form.pausal);
@@ -263,17 +280,63 @@ DenikForm PrijemVydejDialog::readForm() const {
 bool PrijemVydejDialog::save() {
     DbModel* model = openModel();
     if (!model) return false;
+    // Enter presses OK with the focus still in the date: its rate is the one of the typed day.
+    m_datum->commitText();
     DenikPole pole = DenikPole::ZADNE;
-    int id = -1;
-    const wxString message = ulozitDenik(*model, readForm(), &id, &pole);
+    wxString message;
+    const DenikForm form = readForm(&pole, &message);
+    if (message.empty()) message = denikValidation(*model, form, &pole);
     if (!message.empty()) {
         prompts().info(message, u8("Informace"), this);
-        if (pole == DenikPole::REGISTR) m_registr->SetFocus();
-        if (pole == DenikPole::PREDKONTACE) m_predkontace->SetFocus();
+        focusField(pole);
+        return false;
+    }
+    const wxString dotaz = zapornaPokladnaDotaz(*model, form);
+    if (!dotaz.empty() && !prompts().question(dotaz, u8("Dotaz"), this)) {
+        focusField(DenikPole::CASTKA);
+        return false;
+    }
+    int id = -1;
+    message = ulozitDenik(*model, form, &id, &pole);
+    if (!message.empty()) {
+        prompts().info(message, u8("Informace"), this);
+        focusField(pole);
         return false;
     }
     m_savedId = id;
     return true;
+}
+
+void PrijemVydejDialog::focusField(DenikPole pole) {
+    if (pole == DenikPole::DATUM) {
+        m_datum->focusText();
+        return;
+    }
+    wxTextCtrl* field = nullptr;
+    switch (pole) {
+        case DenikPole::CISLO:
+            field = m_cislo;
+            break;
+        case DenikPole::REGISTR:
+            field = m_registr;
+            break;
+        case DenikPole::PREDKONTACE:
+            field = m_predkontace;
+            break;
+        case DenikPole::CASTKA:
+            field = m_castka;
+            break;
+        case DenikPole::CASTKACIZI:
+            field = m_castkaCizi;
+            break;
+        case DenikPole::KURZ:
+            field = m_kurz;
+            break;
+        default:
+            return;
+    }
+    field->SetFocus();
+    field->SelectAll();
 }
 
 void PrijemVydejDialog::setBanka(bool banka) {
@@ -290,7 +353,7 @@ void PrijemVydejDialog::setBanka(bool banka) {
         if (banka) m_vypis->SetValue(model->getLastVypis(model->getBanka(m_registr->GetValue()).id()));
     }
     if (m_typ->GetSelection() != (banka ? 1 : 0)) m_typ->SetSelection(banka ? 1 : 0);
-    Layout();
+    fitFields();
 }
 
 void PrijemVydejDialog::showhideKurz() {
@@ -300,30 +363,42 @@ void PrijemVydejDialog::showhideKurz() {
     for (wxWindow* w :
          std::initializer_list<wxWindow*>{m_castkaCiziLabel, m_castkaCizi, m_kurzLabel, m_kurz, m_kurzButton})
         w->Show(cizi);
+    fitFields();
+}
+
+void PrijemVydejDialog::fitFields() {
+    wxSizer* sizer = GetSizer();
+    if (!sizer) return;
+    const wxSize needed = sizer->ComputeFittingClientSize(this);
+    SetMinClientSize(needed);
+    const wxSize now = GetClientSize();
+    // Grows to show a new field at its size; keeps a size the person chose when it is larger.
+    SetClientSize(wxSize(std::max(now.x, needed.x), std::max(now.y, needed.y)));
     Layout();
-    Fit();
 }
 
 void PrijemVydejDialog::recalculate(ZmenaCastky zmena) {
-    if (m_calculating || menaId() == 1) return;
-    m_calculating = true;
+    if (menaId() == 1) return;
     Castky castky;
-    castky.castka = parseAmount(m_castka->GetValue());
-    castky.castkacizi = parseAmount(m_castkaCizi->GetValue());
-    castky.kurz = parseAmount(m_kurz->GetValue());
+    // Only what the person typed is read; a field that does not read yet changes nothing.
+    const lxAmountCtrl* zdroj = zmena == ZmenaCastky::CASTKA ? m_castka : m_castkaCizi;
+    double zadano = 0;
+    if (zdroj->GetValue(&zadano) != lxformat::Chyba::ZADNA) return;
+    if (m_kurz->GetValue(&castky.kurz) != lxformat::Chyba::ZADNA) return;
+    (zmena == ZmenaCastky::CASTKA ? castky.castka : castky.castkacizi) = zadano;
     const Castky vysledek = calculateValues(castky, zmena);
+    // The computed value goes into its field as the double itself.
     if (zmena == ZmenaCastky::CASTKA)
-        setAmount(m_castkaCizi, vysledek.castkacizi);
+        m_castkaCizi->SetValue(vysledek.castkacizi);
     else
-        setAmount(m_castka, vysledek.castka);
-    m_calculating = false;
+        m_castka->SetValue(vysledek.castka);
 }
 
 void PrijemVydejDialog::onDatumChanged() {
     DbModel* model = openModel();
     double kurz = 0;
     if (model && ulozenyKurz(*model, menaId(), m_datum->GetValue(), &kurz)) {
-        setAmount(m_kurz, kurz);
+        m_kurz->SetValue(kurz);
         recalculate(ZmenaCastky::KURZ);
     }
 }
@@ -334,7 +409,7 @@ void PrijemVydejDialog::onKurzDownload() {
     if (!model) return;
     wxBusyCursor busy;
     if (stahnoutKurz(*model, menaId(), m_datum->GetValue(), &kurz)) {
-        setAmount(m_kurz, kurz);
+        m_kurz->SetValue(kurz);
         recalculate(ZmenaCastky::KURZ);
     } else {
         prompts().info(u8("Kurz se nepodařilo získat"), u8("Informace"), this);

@@ -311,6 +311,16 @@ class DbModel {
     int denikSloupecByDenikId(int id);  // -1 for an unknown entry
     // The latest statement number of a bank account in the current year; 0 when none.
     int getLastVypis(int bankaid);
+    // Whether an entry of year `rok` other than `exceptId` already has the document number.
+    bool hasDenikCislo(const wxString& cislo, int rok, int exceptId);
+    // The movements of a cash register summed per day, oldest first, all years, in the
+    // register's own currency as its balance counts them (income adds), leaving out the entry
+    // `exceptId` (the one being edited; -1 for none).
+    struct DenniPohyb {
+        wxDateTime datum;
+        double zmena;
+    };
+    std::vector<DenniPohyb> pokladnaPohybyPoDnech(int id, int exceptId);
     lxDenikSloupecArray deniksloupcePrijem();
     lxDenikSloupecArray deniksloupceVydaj();
 

@@ -172,6 +172,35 @@ int DbModel::getLastVypis(int bankaid) {
                              currentRok());
 }
 
+bool DbModel::hasDenikCislo(const wxString& cislo, int rok, int exceptId) {
+    if (isForeignStorage()) return false;
+    return sqlvalue::exists(m_db, "SELECT count(*) FROM denik WHERE cislo=? AND obdobirok=? AND id<>?", cislo, rok,
+                            exceptId);
+}
+
+std::vector<DbModel::DenniPohyb> DbModel::pokladnaPohybyPoDnech(int id, int exceptId) {
+    std::vector<DenniPohyb> pohyby;
+    if (isForeignStorage()) return pohyby;
+    const wxString sql =
+        "SELECT date(d.datum) AS den, total(CASE WHEN r.menaid=1 THEN d.castka ELSE d.castkacizi END * "
+        "CASE WHEN p.prijem=1 THEN 1 ELSE -1 END) FROM denik d JOIN pokladna r ON d.pokladnaid=r.id "
+        "LEFT JOIN predkontace p ON d.predkontaceid=p.id WHERE d.pokladnaid=? AND d.id<>? "
+        "GROUP BY den ORDER BY den";
+    try {
+        wxSQLite3Statement st = m_db.PrepareStatement(sql);
+        recordio::bindValues(st, id, exceptId);
+        wxSQLite3ResultSet rs = st.ExecuteQuery();
+        while (rs.NextRow()) {
+            wxDateTime den;
+            if (!rs.IsNull(0) && den.ParseISODate(rs.GetAsString(0))) pohyby.push_back({den, rs.GetDouble(1)});
+        }
+    } catch (const wxSQLite3Exception& e) {
+        sqllog::error(sql, e);
+        pohyby.clear();
+    }
+    return pohyby;
+}
+
 // ---------------------------------------------------------------- journal columns
 
 lxDenikSloupecArray DbModel::deniksloupcePrijem() {

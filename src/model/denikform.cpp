@@ -1,7 +1,10 @@
 #include "denikform.h"
 
+#include <algorithm>
+
 #include "dbmodel.h"
 #include "download.h"
+#include "lxformat.h"
 #include "lxutils.h"
 #include "recordio.h"
 #include "sqllog.h"
@@ -40,10 +43,62 @@ wxString denikValidation(DbModel& model, const DenikForm& form, DenikPole* pole)
     }
     const wxString predkontace = trimmed(form.predkontace);
     if (predkontace.empty()) return fail(DenikPole::PREDKONTACE, u8("Předkontace nemůže být prázdná"));
-    if (model.getPredkontaceIdByZkratka(predkontace) < 0) {
+    const int predkontaceId = model.getPredkontaceIdByZkratka(predkontace);
+    if (predkontaceId < 0) {
         return fail(DenikPole::PREDKONTACE, wxString::Format(u8("Předkontace %s neexistuje"), predkontace));
     }
+    // The pre-posting decides the direction and so the series and the sign in the balances:
+    // an expense code typed into the income dialog would book an expense numbered as income.
+    const bool prijem = model.isPredkontacePrijem(predkontaceId);
+    if (prijem != form.prijem) {
+        return fail(DenikPole::PREDKONTACE,
+                    wxString::Format(prijem ? u8("Předkontace %s je příjmová, zadejte výdajovou")
+                                            : u8("Předkontace %s je výdajová, zadejte příjmovou"),
+                                     predkontace));
+    }
+    if (!form.datum.IsValid()) return fail(DenikPole::DATUM, lxformat::datumZprava(u8("Datum"), wxString()));
+    const int rok = model.currentRok();
+    if (form.datum.GetYear() != rok) {
+        return fail(DenikPole::DATUM,
+                    wxString::Format(u8("Datum %s není v účetním období %d"), lxformat::formatDatum(form.datum), rok));
+    }
+    // An empty number takes the series' next one when stored. An edit and a saved copy
+    // (stored already by copyDenik) may keep their own number.
+    const wxString cislo = trimmed(form.cislo);
+    if (!cislo.empty() && model.hasDenikCislo(cislo, rok, form.mode == DenikForm::ADD ? -1 : form.id)) {
+        return fail(DenikPole::CISLO, wxString::Format(u8("Doklad s číslem %s už existuje"), cislo));
+    }
     return wxString();
+}
+
+double nejnizsiStav(const std::vector<DbModel::DenniPohyb>& pohyby, const wxDateTime& datum, double zmena) {
+    const wxDateTime den = datum.GetDateOnly();
+    double stav = 0;
+    size_t i = 0;
+    for (; i < pohyby.size() && pohyby[i].datum.IsEarlierThan(den); ++i) stav += pohyby[i].zmena;
+    stav += zmena;
+    if (i < pohyby.size() && pohyby[i].datum.IsSameDate(den)) stav += pohyby[i++].zmena;
+    double nejnizsi = stav;
+    for (; i < pohyby.size(); ++i) {
+        stav += pohyby[i].zmena;
+        nejnizsi = std::min(nejnizsi, stav);
+    }
+    return nejnizsi;
+}
+
+wxString zapornaPokladnaDotaz(DbModel& model, const DenikForm& form) {
+    if (form.banka || form.prijem || !form.datum.IsValid()) return wxString();
+    const Pokladna pokladna = model.getPokladna(trimmed(form.registr));
+    if (!pokladna.isValid()) return wxString();
+    const bool domaci = pokladna.menaid() == HOME_MENA;
+    const double castka = domaci ? form.castka : form.castkacizi;
+    const int bez = form.mode == DenikForm::ADD ? -1 : form.id;
+    const double stav = nejnizsiStav(model.pokladnaPohybyPoDnech(pokladna.id(), bez), form.datum, -castka);
+    // Below half a heller the register shows zero, and zero is not negative.
+    if (stav > -0.005) return wxString();
+    const wxString mena = domaci ? u8("Kč") : model.kodMena(pokladna.menaid());
+    return wxString::Format(u8("Stav pokladny %s bude záporný (%s). Přesto uložit?"), pokladna.zkratka(),
+                            lxformat::formatCastka(stav, mena));
 }
 
 wxString denikRada(bool prijem, bool banka) {

@@ -11,9 +11,9 @@
 #include <wx/string.h>
 
 #include <map>
+#include <vector>
 
-class DbModel;
-class Denik;
+#include "dbmodel.h"
 
 // The fields of the income/expense dialog.
 struct DenikForm {
@@ -38,11 +38,24 @@ struct DenikForm {
 };
 
 // The field a failed check sends the focus back to.
-enum class DenikPole { ZADNE, REGISTR, PREDKONTACE };
+enum class DenikPole { ZADNE, DATUM, CISLO, REGISTR, PREDKONTACE, CASTKA, CASTKACIZI, KURZ };
 
 // The first failed check of the form as the message to show under "Informace", or an empty
-// text when the entry may be saved. `pole` receives the field to focus.
+// text when the entry may be saved. `pole` receives the field to focus. In this order: the
+// register or account, the pre-posting (known, and of the direction the form was opened
+// for), the date (inside the current accounting year) and the document number (not used by
+// another entry of that year).
 wxString denikValidation(DbModel& model, const DenikForm& form, DenikPole* pole = nullptr);
+
+// The lowest balance a cash register reaches from `datum` on when `zmena` is booked on that
+// day, given its movements per day (oldest first, as pokladnaPohybyPoDnech gives them).
+double nejnizsiStav(const std::vector<DbModel::DenniPohyb>& pohyby, const wxDateTime& datum, double zmena);
+// A cash expense that takes its register below zero on its day or any later one needs the
+// user's consent: the question to ask under "Dotaz" ("Stav pokladny POK1 bude záporný
+// (-250,00 Kč). Přesto uložit?"), naming the lowest balance reached. Empty when no question
+// is needed: income, bank entries, and registers that stay at zero or above. The form is one
+// that passed denikValidation.
+wxString zapornaPokladnaDotaz(DbModel& model, const DenikForm& form);
 
 // The series of a journal entry: "PP" cash income, "PV" cash expense, "BP" bank income,
 // "BV" bank expense.

@@ -199,10 +199,11 @@ DenikImport importDenikText(DbModel& model, const wxString& text) {
         }
         form.predkontace = trimmed(r.fields[5]);
         form.protistrana = trimmed(r.fields[6]);
+        // A row takes its direction from its pre-posting.
+        form.prijem = model.isPredkontacePrijem(model.getPredkontaceIdByZkratka(form.predkontace));
         const wxString error = denikValidation(model, form);
         if (!error.empty()) return fault(r.line, error);
 
-        form.prijem = model.isPredkontacePrijem(model.getPredkontaceIdByZkratka(form.predkontace));
         // Without a percentage an income takes the first one the dialog offers.
         form.pausal = 80;
         if (used > COLUMNS && !trimmed(r.fields[COLUMNS]).empty() && !parsePausal(r.fields[COLUMNS], &form.pausal)) {

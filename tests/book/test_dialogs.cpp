@@ -1,16 +1,24 @@
-// The shared dialogs: the address book "Adresář" with its contact form, and the preferences
-// with the due days and the number series.
+// The shared dialogs: the address book "Adresář" with its contact form, the preferences
+// with the due days and the number series, and the typed dates of the working date and of
+// the book filters.
 #include <gmock/gmock.h>
+#include <wx/app.h>
+#include <wx/checkbox.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
 
+#include <functional>
+
+#include "DatumDialog.h"
 #include "KontaktDialog.h"
 #include "KontaktyDialog.h"
 #include "PreferencesDialog.h"
 #include "RadaDialog.h"
 #include "RadyPanel.h"
+#include "book/lxfilterdialog.h"
 #include "book/lxlistctrl.h"
 #include "booktest.h"
+#include "lxformat.h"
 #include "lxsettings.h"
 
 using ::testing::ElementsAre;
@@ -178,4 +186,98 @@ TEST_F(BookTest, PreferencesListSeriesAndStoreDueDaysOfTheYear) {
         EXPECT_EQ(lxSettings::instance()->splatnost(), days);
     }
     EXPECT_EQ(m_model->tableRows("settings"), 1);
+}
+
+// ---------------------------------------------------------------- typed dates
+
+namespace {
+
+void typeInto(wxWindow* dialog, const char* name, const wxString& text) {
+    auto* control = child<wxTextCtrl>(dialog, name);
+    control->SetFocus();
+    control->SelectAll();
+    if (text.empty())
+        control->Remove(0, control->GetLastPosition());  // Delete over the selection
+    else
+        control->WriteText(text);
+}
+
+void check(wxCheckBox* box, bool value) {
+    box->SetValue(value);
+    wxCommandEvent event(wxEVT_CHECKBOX, box->GetId());
+    event.SetEventObject(box);
+    event.SetInt(value);
+    box->GetEventHandler()->ProcessEvent(event);
+}
+
+// Runs a dialog modally; `person` acts once it is on the screen and presses OK. A dialog
+// still open after that is cancelled. The result is how it ended.
+int runAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {
+    wxTheApp->CallAfter([&] {
+        person(&dialog);
+        auto* ok = dialog.FindWindow(wxID_OK);
+        wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
+        event.SetEventObject(ok);
+        ok->ProcessWindowEvent(event);
+        if (dialog.IsModal()) dialog.EndModal(wxID_CANCEL);
+    });
+    return dialog.ShowModal();
+}
+
+}  // namespace
+
+using TypedDates = BookTest;
+
+TEST_F(TypedDates, WorkingDateIsTypedInItsYearOrRefused) {
+    struct Case {
+        const char* typed;
+        const char* datum;  // ISO; empty when refused
+    };
+    for (const Case& c : {Case{"15.10.", "2024-10-15"}, Case{"3.1.2025", "2025-01-03"}, Case{"2025-02-28", "2025-02-28"},
+                          Case{"29.2.2025", ""}, Case{"", ""}}) {
+        m_prompts.clear();
+        DatumDialog dialog(m_frame, iso("2024-06-01"));
+        EXPECT_EQ(child<wxTextCtrl>(&dialog, "datumText")->GetValue(), "01.06.2024");
+        const int result = runAndOk(dialog, [&](wxDialog* d) { typeInto(d, "datumText", u8(c.typed)); });
+        if (*c.datum) {
+            EXPECT_EQ(result, wxID_OK) << c.typed;
+            EXPECT_EQ(dialog.datum().FormatISODate(), c.datum);
+            EXPECT_EQ(m_prompts.transcript(), "");
+        } else {
+            EXPECT_EQ(result, wxID_CANCEL) << c.typed;
+            EXPECT_EQ(m_prompts.transcript(), lxformat::datumZprava(u8("Datum aplikace"), u8(c.typed)) + "\n");
+        }
+    }
+}
+
+TEST_F(TypedDates, FilterRangeIsTypedAndUnreadableDatesAreNamed) {
+    lxFilterDialog dialog(m_frame, "Filtr", lxFilter(), /*hasDate=*/true, wxArrayString());
+    // Unused fields offer the accounting year.
+    EXPECT_EQ(child<wxTextCtrl>(&dialog, "odText")->GetValue(), "01.01.2024");
+    EXPECT_EQ(child<wxTextCtrl>(&dialog, "doText")->GetValue(), "31.12.2024");
+    EXPECT_FALSE(child<wxTextCtrl>(&dialog, "odText")->IsEnabled());
+    check(child<wxCheckBox>(&dialog, "useOd"), true);
+    check(child<wxCheckBox>(&dialog, "useDo"), true);
+    EXPECT_TRUE(child<wxTextCtrl>(&dialog, "odText")->IsEnabled());
+    struct Case {
+        const char* od;
+        const char* doDne;
+        const char* message;
+    };
+    const Case cases[] = {
+        {"1.3.", "2024-03-31", ""},
+        {"1.3.", "31.3", "Do: „31.3“ není platné datum.\nZadejte například 15.10.2026."},
+        {"32.1.", "31.3.", "Od: „32.1.“ není platné datum.\nZadejte například 15.10.2026."},
+        {"1.4.", "31.3.", "Datum od nemůže být pozdější než datum do"},
+    };
+    for (const Case& c : cases) {
+        typeInto(&dialog, "odText", u8(c.od));
+        typeInto(&dialog, "doText", u8(c.doDne));
+        EXPECT_EQ(dialog.validate(), u8(c.message)) << c.od << " " << c.doDne;
+    }
+    typeInto(&dialog, "odText", "1.3.");
+    typeInto(&dialog, "doText", "31.3.2024");
+    const lxFilter f = dialog.filter();
+    EXPECT_EQ(f.od.FormatISODate(), "2024-03-01");
+    EXPECT_EQ(f.doDne.FormatISODate(), "2024-03-31");
 }

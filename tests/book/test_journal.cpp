@@ -160,9 +160,9 @@ TEST_F(Journal, ForeignCurrencyShowsTheRateAndComputesTheHomeAmount) {
 
     kurz->SetValue("25");  // SetValue sends the change as typing does
     field<wxTextCtrl>(&dialog, "castkacizi")->SetValue("10");
-    EXPECT_EQ(field<wxTextCtrl>(&dialog, "castka")->GetValue(), "250");
+    EXPECT_EQ(field<wxTextCtrl>(&dialog, "castka")->GetValue(), "250,00");
     field<wxTextCtrl>(&dialog, "castka")->SetValue("100");
-    EXPECT_EQ(field<wxTextCtrl>(&dialog, "castkacizi")->GetValue(), "4");
+    EXPECT_EQ(field<wxTextCtrl>(&dialog, "castkacizi")->GetValue(), "4,00");
     const DenikForm form = dialog.readForm();
     EXPECT_NE(form.menaid, 1);
     EXPECT_DOUBLE_EQ(form.kurz, 25);

@@ -1,7 +1,6 @@
 // The main window: menus, navigation, status bar, model events, the application date, the
 // update check, the backup reminder and what the window stores when it closes.
 #include <wx/accel.h>
-#include <wx/datectrl.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
 #include <wx/menu.h>
@@ -9,6 +8,7 @@
 #include <wx/utils.h>
 
 #include "book/lxbook.h"
+#include "controls/lxdatectrl.h"
 #include "dbmodel.h"
 #include "httpserver.h"
 #include "lxsettings.h"
@@ -151,10 +151,10 @@ TEST_F(MainWindow, ApplicationDateDialogSetsTheWorkingDate) {
     addCompany("evida1.db", "Alfa", "1");
     ASSERT_TRUE(start()->isLoaded());
     m_dialogs.then([](wxDialog* dialog) {
-        auto* picker = dynamic_cast<wxDatePickerCtrl*>(wxWindow::FindWindowByName("datum", dialog));
+        auto* picker = dynamic_cast<lxDateCtrl*>(wxWindow::FindWindowByName("datum", dialog));
         ASSERT_NE(picker, nullptr);
         EXPECT_EQ(picker->GetValue().FormatISODate(), "2025-06-20");
-        picker->SetValue(isoDay("2025-01-15"));
+        picker->textCtrl()->ChangeValue("15.1.");  // typed, in the working date's year
         click(dialog, wxID_OK);
     });
     command(evidaFrame::ID_DATUM);

@@ -3,11 +3,13 @@
 #include <wx/button.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
-#include <wx/datectrl.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
+#include "controls/lxdatectrl.h"
+#include "dbmodel.h"
+#include "lxformat.h"
 #include "prompts.h"
 
 lxFilterDialog::lxFilterDialog(wxWindow* parent, const wxString& title, const lxFilter& filter, bool hasDate,
@@ -22,12 +24,20 @@ lxFilterDialog::lxFilterDialog(wxWindow* parent, const wxString& title, const lx
     if (hasDate) {
         m_useOd = new wxCheckBox(this, wxID_ANY, wxString::FromUTF8("Od:"), wxDefaultPosition, wxDefaultSize, 0,
                                  wxDefaultValidator, "useOd");
-        m_od = new wxDatePickerCtrl(this, wxID_ANY, wxDefaultDateTime, wxDefaultPosition, wxDefaultSize,
-                                    wxDP_DROPDOWN | wxDP_SHOWCENTURY, wxDefaultValidator, "od");
+        m_od = new lxDateCtrl(this, "od");
         m_useDo = new wxCheckBox(this, wxID_ANY, wxString::FromUTF8("Do:"), wxDefaultPosition, wxDefaultSize, 0,
                                  wxDefaultValidator, "useDo");
-        m_do = new wxDatePickerCtrl(this, wxID_ANY, wxDefaultDateTime, wxDefaultPosition, wxDefaultSize,
-                                    wxDP_DROPDOWN | wxDP_SHOWCENTURY, wxDefaultValidator, "do");
+        m_do = new lxDateCtrl(this, "do");
+        // A date typed without its year is a day of the accounting year; an unused field
+        // offers the year's first and last day.
+        DbModel* model = DbModel::instance();
+        if (model && model->isOpen() && model->currentRok() > 0) {
+            const int rok = model->currentRok();
+            m_od->setRok(rok);
+            m_do->setRok(rok);
+            m_od->SetValue(wxDateTime(1, wxDateTime::Jan, rok));
+            m_do->SetValue(wxDateTime(31, wxDateTime::Dec, rok));
+        }
         fields->Add(m_useOd, wxSizerFlags().CentreVertical());
         fields->Add(m_od, wxSizerFlags().Expand());
         fields->Add(m_useDo, wxSizerFlags().CentreVertical());
@@ -68,8 +78,8 @@ lxFilterDialog::lxFilterDialog(wxWindow* parent, const wxString& title, const lx
 
 lxFilter lxFilterDialog::filter() const {
     lxFilter f;
-    if (m_od && m_useOd->GetValue()) f.od = m_od->GetValue().GetDateOnly();
-    if (m_do && m_useDo->GetValue()) f.doDne = m_do->GetValue().GetDateOnly();
+    if (m_od && m_useOd->GetValue()) f.od = m_od->GetValue();
+    if (m_do && m_useDo->GetValue()) f.doDne = m_do->GetValue();
     f.text = m_text->GetValue().Strip(wxString::both);
     f.choice = m_choice ? std::max(0, m_choice->GetSelection()) : 0;
     return f;
@@ -89,7 +99,15 @@ void lxFilterDialog::setFilter(const lxFilter& filter) {
             filter.choice >= 0 && filter.choice < static_cast<int>(m_choice->GetCount()) ? filter.choice : 0);
 }
 
+lxDateCtrl* lxFilterDialog::invalidDate() const {
+    if (m_od && m_useOd->GetValue() && !m_od->GetValue().IsValid()) return m_od;
+    if (m_do && m_useDo->GetValue() && !m_do->GetValue().IsValid()) return m_do;
+    return nullptr;
+}
+
 wxString lxFilterDialog::validate() const {
+    if (lxDateCtrl* datum = invalidDate())
+        return lxformat::datumZprava(wxString::FromUTF8(datum == m_od ? "Od" : "Do"), datum->text());
     const lxFilter f = filter();
     if (f.od.IsValid() && f.doDne.IsValid() && f.od.IsLaterThan(f.doDne))
         return wxString::FromUTF8("Datum od nemůže být pozdější než datum do");
@@ -104,7 +122,8 @@ void lxFilterDialog::updateDates() {
 void lxFilterDialog::onOk(wxCommandEvent&) {
     const wxString error = validate();
     if (!error.empty()) {
-        prompts().info(error, wxString(), this);
+        prompts().info(error, wxString::FromUTF8("Informace"), this);
+        if (lxDateCtrl* datum = invalidDate()) datum->focusText();
         return;
     }
     EndModal(wxID_OK);

@@ -9,7 +9,7 @@
 
 class wxCheckBox;
 class wxChoice;
-class wxDatePickerCtrl;
+class lxDateCtrl;
 class wxTextCtrl;
 
 class lxFilterDialog : public wxDialog {
@@ -20,7 +20,8 @@ class lxFilterDialog : public wxDialog {
     // The filter as the controls set it.
     lxFilter filter() const;
     void setFilter(const lxFilter& filter);
-    // Why the controls do not make a filter (empty when they do).
+    // Why the controls do not make a filter (empty when they do): a date that does not read,
+    // or a range that ends before it starts.
     wxString validate() const;
 
  protected:
@@ -31,12 +32,14 @@ class lxFilterDialog : public wxDialog {
     void onOk(wxCommandEvent& event);
     void onClear(wxCommandEvent& event);
     void updateDates();
+    // The date field a failed check names, for the focus.
+    lxDateCtrl* invalidDate() const;
 
     wxSizer* m_fields = nullptr;
     wxCheckBox* m_useOd = nullptr;
     wxCheckBox* m_useDo = nullptr;
-    wxDatePickerCtrl* m_od = nullptr;
-    wxDatePickerCtrl* m_do = nullptr;
+    lxDateCtrl* m_od = nullptr;
+    lxDateCtrl* m_do = nullptr;
     wxTextCtrl* m_text = nullptr;
     wxChoice* m_choice = nullptr;
 };
