@@ -149,6 +149,19 @@ TEST_F(ImportCompany, JournalExportComesBackFieldForField) {
     EXPECT_EQ(m_model->getCisloDokladu("BV"), "BV0002");
 }
 
+TEST_F(ImportCompany, CommandLineImportsTheJournalExport) {
+    const wxString csv = m_home + "/export.csv";
+    {
+        const std::string bytes = exportCsv(*m_model, std::vector<Row>(std::begin(ROWS), std::end(ROWS)));
+        wxFFile f(csv, "wb");
+        ASSERT_TRUE(f.Write(bytes.data(), bytes.size()) == bytes.size());
+    }
+    m_model->closeDatabase();
+    const CliResult r = runCli("import " + m_path + " " + csv);
+    EXPECT_EQ(r.status, 0) << r.output;
+    EXPECT_THAT(r.output, HasSubstr(std::string(u8("Importováno záznamů: 6").utf8_str())));
+}
+
 TEST_F(ImportCompany, HeadingNamesTheColumnsInAnyOrder) {
     const DenikImport r = import(u8("kurz;MĚNA;predkontace;Pokladna/Účet;Částka;popis;Protistrana;Datum;Číslo\n"
                                     "25;EUR;V002;POKE;10;Káva;;15.1.2024;\n")
@@ -311,6 +324,11 @@ TEST_F(ImportCompany, SameNumberTwiceInOneSeriesIsRefusedAtTheSecondLine) {
     EXPECT_EQ(twice.zprava, u8("Řádek 4: číslo dokladu PP0005 už má řádek 1"));
     EXPECT_EQ(m_model->tableRows("denik"), 0);
     EXPECT_EQ(m_model->getRadaCislo("PP"), 1);
+
+    // A number the series could not continue after.
+    const DenikImport last = import("2024-01-10;PP2147483647;a;1;POK1;P001;\n");
+    EXPECT_FALSE(last.ok);
+    EXPECT_EQ(last.zprava, u8("Řádek 1: číslo dokladu PP2147483647 je mimo rozsah číselné řady PP"));
 
     // The same plain number in two series is two documents.
     const DenikImport series = import("2024-01-10;100;a;1;POK1;P001;\n2024-01-11;100;b;1;BU1;V001;\n");

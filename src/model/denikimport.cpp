@@ -237,14 +237,15 @@ wxString vypis(DbModel& model, const csvtext::Zaznam& z, const Rozlozeni& r, Kon
 
 // The series an explicit document number belongs to: the row's own when the number is its
 // prefix followed by digits, else another journal series whose prefix it carries that way;
-// `n` receives the digits' value. An empty series when it belongs to none.
+// `n` receives the digits' value (held at LONG_MAX for absurd lengths). An empty series when
+// it belongs to none.
 wxString radaCisla(const std::map<wxString, Rada>& rady, const wxString& vlastni, const wxString& cislo, long* n) {
     auto matches = [&](const Rada& rada) {
         const wxString& prefix = rada.prefix();
         if (!cislo.StartsWith(prefix) || cislo.length() == prefix.length()) return false;
         const wxString rest = cislo.Mid(prefix.length());
         if (!std::all_of(rest.begin(), rest.end(), [](wxUniChar c) { return c >= '0' && c <= '9'; })) return false;
-        *n = DbModel::getCisloZDokladu(cislo, static_cast<int>(prefix.length()), 1) - 1;
+        if (rest.length() > 18 || !rest.ToLong(n, 10)) *n = LONG_MAX;
         return true;
     };
     const auto own = rady.find(vlastni);
@@ -395,8 +396,12 @@ DenikImport importDenikText(DbModel& model, const wxString& text) {
             long n = 0;
             const wxString vlastni = denikRada(form.prijem, form.banka);
             wxString rada = radaCisla(rady, vlastni, form.cislo, &n);
-            if (rada.empty()) rada = vlastni;
-            const auto [at, novy] = k.cisla.emplace(std::make_pair(rada, form.cislo), z.radek);
+            // The series must be able to continue after it.
+            if (!rada.empty() && n >= INT_MAX) {
+                return fault(z.radek, wxString::Format(u8("číslo dokladu %s je mimo rozsah číselné řady %s"),
+                                                       ukazka(form.cislo), rada));
+            }
+            const auto [at, novy] = k.cisla.emplace(std::make_pair(rada.empty() ? vlastni : rada, form.cislo), z.radek);
             if (!novy) {
                 return fault(z.radek, wxString::Format(u8("číslo dokladu %s už má řádek %d"), ukazka(form.cislo),
                                                        at->second));
