@@ -40,7 +40,8 @@ int count(const char* sql) { return g_model->db().ExecuteScalar(sql); }
 extern "C" int LLVMFuzzerInitialize(int*, char***) {
     g_wx = std::make_unique<wxInitializer>();
     if (!g_wx->IsOk()) std::abort();
-    wxTheApp->SetAppName("evida");
+    // The console application object, not wxApp: nothing here has a display.
+    wxAppConsole::GetInstance()->SetAppName("evida");
     wxLog::SetActiveTarget(new wxLogStderr());
     wxLog::SetLogLevel(wxLOG_Error);
     char tmpl[] = "/tmp/evida-fuzz-XXXXXX";
@@ -89,8 +90,11 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         if (r.zprava.length() > 400) fuzzFail("a message longer than 400 characters");
     }
     if (evidaFuzzOutcome) {
-        // The message without the quoted text: what kind of fault, on which kind of line.
-        const std::string outcome = r.ok ? "ok" : std::string(r.zprava.BeforeFirst(wxUniChar(0x201E)).utf8_str());
+        // The kind of fault: the message without its line, digits and quoted text, cut short.
+        wxString kind = r.ok ? wxString("ok") : r.zprava.AfterFirst(':').BeforeFirst(wxUniChar(0x201E));
+        if (kind.empty()) kind = r.zprava;
+        for (wxUniChar c : {'0', '1', '2', '3', '4', '5', '6', '7', '8', '9'}) kind.Replace(wxString(c), "");
+        const std::string outcome(kind.Left(24).utf8_str());
         evidaFuzzOutcome(outcome.data(), outcome.size());
     }
     return 0;  // the transaction rolls back

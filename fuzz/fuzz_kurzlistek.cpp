@@ -44,8 +44,9 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     check(denni);
     check(jednotny);
     if (evidaFuzzOutcome) {
-        const std::string outcome = std::to_string(denni.ok) + "/" + std::to_string(std::min<size_t>(denni.kurzy.size(), 3)) +
-                                    "/" + std::to_string(std::min<size_t>(jednotny.kurzy.size(), 3));
+        const std::string outcome = std::to_string(denni.ok) + "/" +
+                                    std::to_string(std::min<size_t>(denni.kurzy.size(), 3)) + "/" +
+                                    std::to_string(std::min<size_t>(jednotny.kurzy.size(), 3));
         evidaFuzzOutcome(outcome.data(), outcome.size());
     }
     return 0;

@@ -27,12 +27,15 @@ using Input = std::string;
 const size_t LARGEST_INPUT = 64 * 1024;
 
 // Pieces that mean something to the CSV and rate-list readers.
-const char* const TOKENS[] = {";", ",", "\t", "\"", "\"\"", "\n", "\r\n", "\r", "|", "#", "kurz", "Datum",
-                              "Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana", ";Měna;Částka v měně;Kurz",
-                              "\xEF\xBB\xBF", "\xFF\xFE", "\xC5\xBE", "\xC5", "\x81", "\x9E", "\0", "1e308", "0x10",
-                              "-", "99999999999", "999 999 999 999,99", "0,000001", "31.12.2024", "2024-02-29",
-                              "29.2.", "EUR", "USD", "CZK", "POKE", "BUE", "POK1", "BU1", "P001", "V002", "PP0003",
-                              "PP2147483647", "BV99999999999", "100", "1000"};
+// clang-format off
+const char* const TOKENS[] = {
+    ";", ",", "\t", "\"", "\"\"", "\n", "\r\n", "\r", "|", "#", "kurz", "Datum",
+    "Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana", ";Měna;Částka v měně;Kurz",
+    "\xEF\xBB\xBF", "\xFF\xFE", "\xC5\xBE", "\xC5", "\x81", "\x9E", "\0", "1e308", "0x10",
+    "-", "99999999999", "999 999 999 999,99", "0,000001", "31.12.2024", "2024-02-29",
+    "29.2.", "EUR", "USD", "CZK", "POKE", "BUE", "POK1", "BU1", "P001", "V002", "PP0003",
+    "PP2147483647", "BV99999999999", "100", "1000"};
+// clang-format on
 
 // The input being run, for saving when the run dies.
 const Input* g_current = nullptr;
@@ -89,7 +92,7 @@ int run(const Input& input) {
 }
 
 class Mutator {
-   public:
+ public:
     explicit Mutator(unsigned seed) : m_rng(seed) {}
     size_t below(size_t n) { return n == 0 ? 0 : std::uniform_int_distribution<size_t>(0, n - 1)(m_rng); }
 
@@ -105,7 +108,7 @@ class Mutator {
         if (s.size() > LARGEST_INPUT) s.resize(LARGEST_INPUT);
     }
 
-   private:
+ private:
     void step(Input& s, const std::vector<Input>& corpus) {
         const size_t pos = below(s.size() + 1);
         switch (below(9)) {
@@ -208,7 +211,8 @@ int main(int argc, char** argv) {
     const auto deadline = start + std::chrono::duration<double>(seconds);
     size_t runs = 0;
     while (std::chrono::steady_clock::now() < deadline) {
-        Input input = corpus.empty() || mutator.below(10) == 0 ? mutator.random() : corpus[mutator.below(corpus.size())];
+        Input input =
+            corpus.empty() || mutator.below(10) == 0 ? mutator.random() : corpus[mutator.below(corpus.size())];
         mutator.mutate(input, corpus);
         run(input);
         ++runs;

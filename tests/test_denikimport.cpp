@@ -161,20 +161,21 @@ TEST_P(BadFile, IsRefusedWholeNamingTheLine) {
 
 INSTANTIATE_TEST_SUITE_P(
     Files, BadFile,
-    ::testing::Values(
-        BadFileCase{"heading_only", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana\n\n", 0,
-                    "Soubor neobsahuje žádné záznamy"},
-        BadFileCase{"blank_lines_only", "\n  \n;;;\n", 0, "Soubor neobsahuje žádné záznamy"},
-        BadFileCase{"heading_without_a_column", "datum;číslo\n2024-01-15;1\n", 1,
-                    "Řádek 1: v záhlaví chybí sloupec „Popis“"},
-        BadFileCase{"unknown_heading", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Poznámka\n",
-                    1, "Řádek 1: neznámý sloupec záhlaví „Poznámka“"},
-        BadFileCase{"heading_twice", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;popis\n", 1,
-                    "Řádek 1: sloupec „Popis“ je v záhlaví dvakrát"},
-        BadFileCase{"row_wider_than_heading",
-                    "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana\n"
-                    "2024-01-15;;x;10;POK1;P001;;80\n",
-                    2, "Řádek 2: očekává se 7 sloupců podle záhlaví, nalezeno 8"}),
+    ::testing::Values(BadFileCase{"heading_only", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana\n\n",
+                                  0, "Soubor neobsahuje žádné záznamy"},
+                      BadFileCase{"blank_lines_only", "\n  \n;;;\n", 0, "Soubor neobsahuje žádné záznamy"},
+                      BadFileCase{"heading_without_a_column", "datum;číslo\n2024-01-15;1\n", 1,
+                                  "Řádek 1: v záhlaví chybí sloupec „Popis“"},
+                      BadFileCase{"unknown_heading",
+                                  "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Poznámka\n", 1,
+                                  "Řádek 1: neznámý sloupec záhlaví „Poznámka“"},
+                      BadFileCase{"heading_twice",
+                                  "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;popis\n", 1,
+                                  "Řádek 1: sloupec „Popis“ je v záhlaví dvakrát"},
+                      BadFileCase{"row_wider_than_heading",
+                                  "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana\n"
+                                  "2024-01-15;;x;10;POK1;P001;;80\n",
+                                  2, "Řádek 2: očekává se 7 sloupců podle záhlaví, nalezeno 8"}),
     [](const auto& i) { return std::string(i.param.name); });
 
 TEST_F(DenikImportTest, BlankFirstLinesDoNotDecideTheSeparator) {
@@ -256,31 +257,68 @@ TEST_P(FileEncoding, IsReadOrRefusedNamingTheLineOfTheBadByte) {
     EXPECT_EQ(count("denik"), 1);
 }
 
-const std::string ROW1 = "2024-01-15;;Tr\xC5\xBE" "ba;10;POK1;P001;\n";  // "Tržba" in UTF-8
+const std::string ROW1 =
+    "2024-01-15;;Tr\xC5\xBE"
+    "ba;10;POK1;P001;\n";  // "Tržba" in UTF-8
 
 INSTANTIATE_TEST_SUITE_P(
     Bytes, FileEncoding,
-    ::testing::Values(
-        EncodingCase{"utf8", ROW1, "Tržba", 0, nullptr},
-        EncodingCase{"utf8_with_byte_order_mark", "\xEF\xBB\xBF" + ROW1, "Tržba", 0, nullptr},
-        EncodingCase{"windows_1250", "2024-01-15;;\xC8" "ern\xE1 \x9E" "idle;10;POK1;P001;\n", "Černá židle", 0,
-                     nullptr},
-        EncodingCase{"utf16_with_byte_order_mark",
-                     std::string("\xFF\xFE" "2\0" "0\0" "2\0" "4\0" "-\0" "0\0" "1\0" "-\0" "1\0" "5\0" ";\0" ";\0"
-                                 "~\x01" ";\0" "1\0" ";\0" "P\0" "O\0" "K\0" "1\0" ";\0" "P\0" "0\0" "0\0" "1\0"
-                                 ";\0" "\n\0",
-                                 56),
-                     "ž", 0, nullptr},
-        EncodingCase{"utf8_with_one_stray_byte", ROW1 + ROW1 + "2024-01-15;;Tr\xC5\xBE" "ba \xFF;10;POK1;P001;\n",
-                     nullptr, 3, "neplatný bajt 0xFF"},
-        EncodingCase{"utf8_cut_inside_a_letter", ROW1 + "2024-01-15;;Tr\xC5;10;POK1;P001;\n", nullptr, 2,
-                     "neplatný bajt 0xC5"},
-        EncodingCase{"byte_windows_1250_leaves_undefined",
-                     "2024-01-15;;\x9E" "idle;10;POK1;P001;\n\n2024-01-15;;\x81;10;POK1;P001;\n", nullptr, 3,
-                     "neplatný bajt 0x81"},
-        EncodingCase{"binary_with_zero_byte", ROW1 + std::string("PK\x03\x04\0\0", 6), nullptr, 2,
-                     "řídicí znak 0x03"},
-        EncodingCase{"utf16_without_mark", std::string("2\0" "0\0", 4), nullptr, 1, "řídicí znak 0x00"}),
+    ::testing::Values(EncodingCase{"utf8", ROW1, "Tržba", 0, nullptr},
+                      EncodingCase{"utf8_with_byte_order_mark", "\xEF\xBB\xBF" + ROW1, "Tržba", 0, nullptr},
+                      EncodingCase{"windows_1250",
+                                   "2024-01-15;;\xC8"
+                                   "ern\xE1 \x9E"
+                                   "idle;10;POK1;P001;\n",
+                                   "Černá židle", 0, nullptr},
+                      EncodingCase{"utf16_with_byte_order_mark",
+                                   std::string("\xFF\xFE"
+                                               "2\0"
+                                               "0\0"
+                                               "2\0"
+                                               "4\0"
+                                               "-\0"
+                                               "0\0"
+                                               "1\0"
+                                               "-\0"
+                                               "1\0"
+                                               "5\0"
+                                               ";\0"
+                                               ";\0"
+                                               "~\x01"
+                                               ";\0"
+                                               "1\0"
+                                               ";\0"
+                                               "P\0"
+                                               "O\0"
+                                               "K\0"
+                                               "1\0"
+                                               ";\0"
+                                               "P\0"
+                                               "0\0"
+                                               "0\0"
+                                               "1\0"
+                                               ";\0"
+                                               "\n\0",
+                                               56),
+                                   "ž", 0, nullptr},
+                      EncodingCase{"utf8_with_one_stray_byte",
+                                   ROW1 + ROW1 +
+                                       "2024-01-15;;Tr\xC5\xBE"
+                                       "ba \xFF;10;POK1;P001;\n",
+                                   nullptr, 3, "neplatný bajt 0xFF"},
+                      EncodingCase{"utf8_cut_inside_a_letter", ROW1 + "2024-01-15;;Tr\xC5;10;POK1;P001;\n", nullptr, 2,
+                                   "neplatný bajt 0xC5"},
+                      EncodingCase{"byte_windows_1250_leaves_undefined",
+                                   "2024-01-15;;\x9E"
+                                   "idle;10;POK1;P001;\n\n2024-01-15;;\x81;10;POK1;P001;\n",
+                                   nullptr, 3, "neplatný bajt 0x81"},
+                      EncodingCase{"binary_with_zero_byte", ROW1 + std::string("PK\x03\x04\0\0", 6), nullptr, 2,
+                                   "řídicí znak 0x03"},
+                      EncodingCase{"utf16_without_mark",
+                                   std::string("2\0"
+                                               "0\0",
+                                               4),
+                                   nullptr, 1, "řídicí znak 0x00"}),
     [](const auto& i) { return std::string(i.param.name); });
 
 TEST_F(DenikImportTest, FileOverFiftyMegabytesIsRefusedBeforeReading) {

@@ -25,7 +25,7 @@ wxDateTime day(const char* iso) {
 // A company of 2024 using flat-rate expenses, with a euro cash register and a euro account
 // beside the default crown ones, and no journal entries.
 class ImportCompany : public TestCompany {
-   protected:
+ protected:
     void SetUp() override {
         TestCompany::SetUp();
         m_path = createCompany();
@@ -243,41 +243,50 @@ const char* const HEAD = "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkont
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, RowCurrency,
-    ::testing::Values(
-        CurrencyCase{"rate_not_stored_for_the_day", "2024-02-29;;x;10;POKE;V002;\n",
-                     "Řádek 1: kurz měny EUR ke dni 29.02.2024 není uložen", 0, 0, 0, 0},
-        CurrencyCase{"rate_of_the_row", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Kurz\n"
-                                        "2024-02-29;;x;10;POKE;V002;;24,125\n",
-                     nullptr, 2, 241.25, 10, 24.125},
-        CurrencyCase{"bad_rate_of_the_row", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Kurz\n"
-                                            "2024-03-04;;x;10;POKE;V002;;0\n",
-                     "Řádek 2: Kurz: kurz „0“ musí být větší než nula a menší než milion", 0, 0, 0, 0},
-        CurrencyCase{"crown_row_in_euro_register", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;"
-                                                   "Měna\n2024-03-04;;x;10;POKE;V002;;CZK\n",
-                     nullptr, 1, 10, 0, 1},
-        CurrencyCase{"euro_row_in_crown_register_at_stored_rate", "Datum;Číslo;Popis;Částka;Pokladna/účet;"
-                                                                  "Předkontace;Protistrana;Měna\n"
-                                                                  "2024-03-04;;x;10;POK1;V002;;eur\n",
-                     nullptr, 2, 255, 10, 25.5},
-        CurrencyCase{"unknown_currency", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Měna\n"
-                                         "2024-03-04;;x;10;POK1;V002;;XYZ\n",
-                     "Řádek 2: neznámá měna XYZ", 0, 0, 0, 0},
-        CurrencyCase{"foreign_amount_beside_home_amount", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
-                                                          "Protistrana;Měna;Částka v měně;Kurz\n"
-                                                          "2024-03-04;;x;250,01;POKE;V002;;EUR;10;25\n",
-                     nullptr, 2, 250.01, 10, 25},
-        CurrencyCase{"home_amount_disagreeing_with_rate", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
-                                                          "Protistrana;Měna;Částka v měně;Kurz\n"
-                                                          "2024-03-04;;x;260;POKE;V002;;EUR;10;25\n",
-                     "Řádek 2: částka 260,00 Kč neodpovídá částce 10,00 EUR při kurzu 25", 0, 0, 0, 0},
-        CurrencyCase{"foreign_amount_in_a_crown_row", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
-                                                      "Protistrana;Měna;Částka v měně;Kurz\n"
-                                                      "2024-03-04;;x;250;POK1;V002;;CZK;10;25\n",
-                     "Řádek 2: částka v měně 10 u záznamu v korunách", 0, 0, 0, 0},
-        CurrencyCase{"product_beyond_the_largest_amount", "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
-                                                          "Protistrana;Kurz\n"
-                                                          "2024-03-04;;x;999 999 999 999;POKE;V002;;999999\n",
-                     "Řádek 2: Částka v Kč: částka „999998999999000064,00“ je mimo povolený rozsah", 0, 0, 0, 0}),
+    ::testing::Values(CurrencyCase{"rate_not_stored_for_the_day", "2024-02-29;;x;10;POKE;V002;\n",
+                                   "Řádek 1: kurz měny EUR ke dni 29.02.2024 není uložen", 0, 0, 0, 0},
+                      CurrencyCase{"rate_of_the_row",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Kurz\n"
+                                   "2024-02-29;;x;10;POKE;V002;;24,125\n",
+                                   nullptr, 2, 241.25, 10, 24.125},
+                      CurrencyCase{"bad_rate_of_the_row",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Kurz\n"
+                                   "2024-03-04;;x;10;POKE;V002;;0\n",
+                                   "Řádek 2: Kurz: kurz „0“ musí být větší než nula a menší než milion", 0, 0, 0, 0},
+                      CurrencyCase{"crown_row_in_euro_register",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;"
+                                   "Měna\n2024-03-04;;x;10;POKE;V002;;CZK\n",
+                                   nullptr, 1, 10, 0, 1},
+                      CurrencyCase{"euro_row_in_crown_register_at_stored_rate",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;"
+                                   "Předkontace;Protistrana;Měna\n"
+                                   "2024-03-04;;x;10;POK1;V002;;eur\n",
+                                   nullptr, 2, 255, 10, 25.5},
+                      CurrencyCase{"unknown_currency",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;Protistrana;Měna\n"
+                                   "2024-03-04;;x;10;POK1;V002;;XYZ\n",
+                                   "Řádek 2: neznámá měna XYZ", 0, 0, 0, 0},
+                      CurrencyCase{"foreign_amount_beside_home_amount",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
+                                   "Protistrana;Měna;Částka v měně;Kurz\n"
+                                   "2024-03-04;;x;250,01;POKE;V002;;EUR;10;25\n",
+                                   nullptr, 2, 250.01, 10, 25},
+                      CurrencyCase{"home_amount_disagreeing_with_rate",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
+                                   "Protistrana;Měna;Částka v měně;Kurz\n"
+                                   "2024-03-04;;x;260;POKE;V002;;EUR;10;25\n",
+                                   "Řádek 2: částka 260,00 Kč neodpovídá částce 10,00 EUR při kurzu 25", 0, 0, 0, 0},
+                      CurrencyCase{"foreign_amount_in_a_crown_row",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
+                                   "Protistrana;Měna;Částka v měně;Kurz\n"
+                                   "2024-03-04;;x;250;POK1;V002;;CZK;10;25\n",
+                                   "Řádek 2: částka v měně 10 u záznamu v korunách", 0, 0, 0, 0},
+                      CurrencyCase{"product_beyond_the_largest_amount",
+                                   "Datum;Číslo;Popis;Částka;Pokladna/účet;Předkontace;"
+                                   "Protistrana;Kurz\n"
+                                   "2024-03-04;;x;999 999 999 999;POKE;V002;;999999\n",
+                                   "Řádek 2: Částka v Kč: částka „999998999999000064,00“ je mimo povolený rozsah", 0, 0,
+                                   0, 0}),
     [](const auto& i) { return std::string(i.param.name); });
 
 // ---------------------------------------------------------------- number series
@@ -297,8 +306,8 @@ TEST_F(ImportCompany, ExplicitNumberMovesTheSeriesPastIt) {
 TEST_F(ImportCompany, RowsWithoutNumberSkipNumbersTheFileAndTheYearHold) {
     // Stored past the counter, as files from before this rule may hold.
     ASSERT_TRUE(m_model->addDenik(Denik(1, day("2024-01-02"), "PP0002", "", 1, 0, 1, "", 1, 1, 1, -1, 0, 0, 0, 2024)));
-    ASSERT_TRUE(import("2024-01-10;;a;1;POK1;P001;\n2024-01-11;;b;1;POK1;P001;\n2024-01-12;PP0001;c;1;POK1;P001;\n")
-                    .ok);
+    ASSERT_TRUE(
+        import("2024-01-10;;a;1;POK1;P001;\n2024-01-11;;b;1;POK1;P001;\n2024-01-12;PP0001;c;1;POK1;P001;\n").ok);
     EXPECT_EQ(cisla(), (std::vector<wxString>{"PP0002", "PP0003", "PP0004", "PP0001"}));
     EXPECT_EQ(m_model->getCisloDokladu("PP"), "PP0005");
 }
@@ -317,8 +326,9 @@ TEST_F(ImportCompany, NumberOfAnotherSeriesOrPrefixMovesThatSeries) {
 }
 
 TEST_F(ImportCompany, SameNumberTwiceInOneSeriesIsRefusedAtTheSecondLine) {
-    const DenikImport twice = import("2024-01-10;PP0005;a;1;POK1;P001;\n2024-01-11;;b;1;POK1;P001;\n\n"
-                                     "2024-01-12;PP0005;c;1;POK1;P002;\n");
+    const DenikImport twice = import(
+        "2024-01-10;PP0005;a;1;POK1;P001;\n2024-01-11;;b;1;POK1;P001;\n\n"
+        "2024-01-12;PP0005;c;1;POK1;P002;\n");
     EXPECT_FALSE(twice.ok);
     EXPECT_EQ(twice.radek, 4);
     EXPECT_EQ(twice.zprava, u8("Řádek 4: číslo dokladu PP0005 už má řádek 1"));

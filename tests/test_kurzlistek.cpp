@@ -54,6 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
         LineCase{"infinite_rate_counts_as_one", DruhListku::DENNI, "X|y|1|USD|inf\n", "USD", 1.0},
         LineCase{"negative_rate_counts_as_one", DruhListku::DENNI, "X|y|1|USD|-22,5\n", "USD", 1.0},
         LineCase{"zero_quantity_counts_as_one", DruhListku::DENNI, "Thajsko|baht|0|THB|65,711\n", "THB", 65.711},
+        LineCase{"fraction_of_a_unit_counts_as_one", DruhListku::DENNI, "X|y|0,001|USD|999999\n", "USD", 999999.0},
         LineCase{"tiny_quantity_counts_as_one", DruhListku::DENNI, "X|y|1e-300|USD|22\n", "USD", 22.0},
         LineCase{"daily_line_in_yearly_list", DruhListku::JEDNOTNY, "USA|dolar|1|USD|22,205\n", nullptr, 0},
         LineCase{"code_not_three_capitals", DruhListku::DENNI, "<p>|x|1|<b>|22\n", nullptr, 0},

@@ -10,7 +10,7 @@ namespace {
 
 // Where the fields of one rate are on a line of a list.
 struct ListFormat {
-    size_t fields;  // a line counts only with exactly this many "|"-separated fields
+    size_t fields;    // a line counts only with exactly this many "|"-separated fields
     size_t quantity;  // indexes from 0
     size_t code;
     size_t rate;
@@ -63,8 +63,12 @@ KurzovniListek readKurzovniListek(const std::string& bytes, DruhListku druh, con
         if (fields.size() != format.fields) continue;
         const std::string code = trimmed(fields[format.code]);
         if (!isCurrencyCode(code)) continue;
-        // Both numbers lie between zero and a million, so the quotient is finite and positive.
-        const double rate = listNumber(fields[format.rate]) / listNumber(fields[format.quantity]);
+        // Rates are quoted for 1, 100 or 1000 units; a quantity below one would multiply the
+        // rate past any real one, so it counts as one too. The quotient then stays positive and
+        // below the largest rate.
+        double quantity = listNumber(fields[format.quantity]);
+        if (quantity < 1) quantity = 1;
+        const double rate = listNumber(fields[format.rate]) / quantity;
         listek.kurzy.emplace_back(0, datum, rate, wxString::FromAscii(code.c_str()), jednotny);
     }
     listek.ok = true;

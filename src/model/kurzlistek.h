@@ -29,7 +29,7 @@ struct KurzovniListek {
 // Reads a list. Only lines ended by a line feed count; a line that names the column "kurz"
 // (the header) or holds "#" (the list's date and number) is skipped, as is every line
 // without the exact number of fields. Each rate gets `datum` and the yearly flag of its kind.
-// A quantity or rate that does not read as a number counts as 1; a quantity of zero too.
+// A quantity or rate that does not read as a number counts as 1; a quantity below 1 too.
 KurzovniListek readKurzovniListek(const std::string& bytes, DruhListku druh, const wxDateTime& datum);
 
 }  // namespace lxutils
