@@ -40,7 +40,7 @@ struct Zaznam {
 // A field quoted with '"' may hold separators, line breaks and doubled quotes; an unquoted
 // field is trimmed. "\r\n", "\n" and "\r" each end a record.
 class Ctecka {
-   public:
+ public:
     explicit Ctecka(const wxString& text);
     enum class Stav { ZAZNAM, KONEC, CHYBA };
     // The next record; on CHYBA `zaznam->radek` is the line of the fault and chyba() says it.
@@ -48,7 +48,7 @@ class Ctecka {
     const wxString& chyba() const { return m_chyba; }
     wxUniChar oddelovac() const { return m_sep; }
 
-   private:
+ private:
     const wxString& m_text;
     wxString::const_iterator m_it;
     wxUniChar m_sep;

@@ -50,8 +50,8 @@ enum Sloupec {
     POCET_SLOUPCU
 };
 const char* const NAZVY_SLOUPCU[POCET_SLOUPCU] = {
-    "Datum",     "Číslo",     "Popis",     "Částka", "Pokladna/účet", "Předkontace", "Protistrana",
-    "Paušál",    "Reference", "Výpis",     "Měna",   "Částka v měně", "Kurz"};
+    "Datum",  "Číslo",     "Popis", "Částka", "Pokladna/účet", "Předkontace", "Protistrana",
+    "Paušál", "Reference", "Výpis", "Měna",   "Částka v měně", "Kurz"};
 const int POVINNE_SLOUPCE = 7;  // DATUM to PROTISTRANA; a file without a heading may add PAUSAL
 
 // Far more entries than a small business books in a year; with the file size this bounds the
@@ -88,8 +88,8 @@ bool isBlank(const csvtext::Zaznam& r) {
 // Where each column is in a record: by position, or by the names of the heading.
 struct Rozlozeni {
     int index[POCET_SLOUPCU];
-    size_t sirka = 0;         // fields a record may have
-    size_t nejmene = 0;       // fields it must have
+    size_t sirka = 0;    // fields a record may have
+    size_t nejmene = 0;  // fields it must have
     bool zahlavi = false;
 };
 
@@ -281,8 +281,7 @@ wxString radek(DbModel& model, const csvtext::Zaznam& z, const Rozlozeni& r, Kon
     if (!chyba.empty()) return chyba;
 
     form->prijem = model.isPredkontacePrijem(model.getPredkontaceIdByZkratka(form->predkontace));
-    const int registrMena =
-        form->banka ? model.getBanka(bankaid).menaid() : model.getPokladna(pokladnaid).menaid();
+    const int registrMena = form->banka ? model.getBanka(bankaid).menaid() : model.getPokladna(pokladnaid).menaid();
     wxString fault = meny(model, z, r, registrMena, form);
     if (!fault.empty()) return fault;
     // Without a percentage an income takes the first one the dialog offers; a written 0 is none.
@@ -403,8 +402,8 @@ DenikImport importDenikText(DbModel& model, const wxString& text) {
             }
             const auto [at, novy] = k.cisla.emplace(std::make_pair(rada.empty() ? vlastni : rada, form.cislo), z.radek);
             if (!novy) {
-                return fault(z.radek, wxString::Format(u8("číslo dokladu %s už má řádek %d"), ukazka(form.cislo),
-                                                       at->second));
+                return fault(z.radek,
+                             wxString::Format(u8("číslo dokladu %s už má řádek %d"), ukazka(form.cislo), at->second));
             }
         }
         forms.push_back(form);
