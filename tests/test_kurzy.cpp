@@ -25,10 +25,30 @@ namespace {
 
 // Serves files of a directory; the query of a request becomes part of the file name
 // ("denni_kurz.txt?date=02.01.2024" is "denni_kurz.txt__date=02.01.2024"); a file
-// "<name>.moved" beside a name answers with a redirect to its content.
-const char* const SERVER_PY = R"(import http.server, os, sys, urllib.parse
+// "<name>.moved" beside a name answers with a redirect to its content. Files beside a name
+// change how it is sent, as servers out there do: "<name>.repeat" holds how many times the
+// content is sent over, "<name>.gzip" compresses the body (Content-Encoding: gzip),
+// "<name>.chunked" sends it chunked and "<name>.close" until the connection closes, both
+// without a Content-Length.
+const char* const SERVER_PY = R"(import http.server, os, sys, urllib.parse, zlib
 root = sys.argv[1]
+def body(name):
+    data = open(name, 'rb').read()
+    left = int(open(name + '.repeat').read()) if os.path.isfile(name + '.repeat') else 1
+    per = max(1, 65536 // max(1, len(data)))
+    while left > 0:
+        k = min(left, per)
+        yield data * k
+        left -= k
+def gzipped(chunks):
+    z = zlib.compressobj(9, zlib.DEFLATED, 31)
+    for c in chunks:
+        out = z.compress(c)
+        if out:
+            yield out
+    yield z.flush()
 class Handler(http.server.BaseHTTPRequestHandler):
+    protocol_version = 'HTTP/1.1'
     def do_GET(self):
         name = os.path.join(root, urllib.parse.unquote(self.path).lstrip('/').replace('?', '__'))
         if os.path.isfile(name + '.moved'):
@@ -40,12 +60,32 @@ class Handler(http.server.BaseHTTPRequestHandler):
         if not os.path.isfile(name):
             self.send_error(404)
             return
-        data = open(name, 'rb').read()
+        chunks = body(name)
         self.send_response(200)
         self.send_header('Content-Type', 'text/plain; charset=UTF-8')
-        self.send_header('Content-Length', str(len(data)))
-        self.end_headers()
-        self.wfile.write(data)
+        if os.path.isfile(name + '.gzip'):
+            chunks = gzipped(chunks)
+            self.send_header('Content-Encoding', 'gzip')
+        try:
+            if os.path.isfile(name + '.chunked'):
+                self.send_header('Transfer-Encoding', 'chunked')
+                self.end_headers()
+                for c in chunks:
+                    self.wfile.write(b'%x\r\n' % len(c) + c + b'\r\n')
+                self.wfile.write(b'0\r\n\r\n')
+            elif os.path.isfile(name + '.close'):
+                self.send_header('Connection', 'close')
+                self.end_headers()
+                self.close_connection = True
+                for c in chunks:
+                    self.wfile.write(c)
+            else:
+                data = b''.join(chunks)
+                self.send_header('Content-Length', str(len(data)))
+                self.end_headers()
+                self.wfile.write(data)
+        except (BrokenPipeError, ConnectionResetError):
+            self.close_connection = True
     def log_message(self, *args):
         pass
 server = http.server.ThreadingHTTPServer(('127.0.0.1', 0), Handler)
@@ -367,4 +407,90 @@ TEST_F(RateDownload, CommandLineStoresTheRatesOfADay) {
     EXPECT_EQ(noList.status, 1);
     EXPECT_THAT(noList.output, HasSubstr("nepodařilo stáhnout"));
     EXPECT_EQ(countInFile(m_path, "SELECT count(*) FROM kurz WHERE datum='2024-01-03'"), 0);
+}
+
+// How a body is sent by the loopback server (see SERVER_PY).
+enum class Sending { LENGTH, CHUNKED, UNTIL_CLOSE };
+
+class BoundedDownload : public RateDownload {
+ protected:
+    // Serves `content` repeated `times` at `path` (relative to the server's root).
+    void serve(const wxString& path, const std::string& content, int times, Sending how, bool gzip) {
+        const wxString file = m_www + "/" + path;
+        writeFile(file, content);
+        writeFile(file + ".repeat", std::to_string(times));
+        if (how == Sending::CHUNKED) writeFile(file + ".chunked", "");
+        if (how == Sending::UNTIL_CLOSE) writeFile(file + ".close", "");
+        if (gzip) writeFile(file + ".gzip", "");
+    }
+};
+
+struct CapCase {
+    const char* name;
+    Sending how;
+    bool gzip;
+    int times;  // of a 17-byte line
+    size_t cap;
+    bool ok;
+};
+class DownloadCap : public BoundedDownload, public ::testing::WithParamInterface<CapCase> {};
+TEST_P(DownloadCap, CountsTheBytesThatArriveAfterDecoding) {
+    const CapCase c = GetParam();
+    const std::string line = "0123456789abcdef\n";
+    serve("data.txt", line, c.times, c.how, c.gzip);
+    const bool ok = lxutils::downloadFileFromNet(m_base + "/data.txt", lxutils::dataDir(), "data.txt", c.cap);
+    EXPECT_EQ(ok, c.ok);
+    EXPECT_EQ(wxFileName::FileExists(dataFile("data.txt")), c.ok);
+    EXPECT_FALSE(wxFileName::FileExists(dataFile("data.txt.part")));
+    std::string expected;
+    for (int i = 0; i < c.times; ++i) expected += line;
+    if (c.ok) {
+        EXPECT_EQ(readFile(dataFile("data.txt")), expected);
+    }
+}
+INSTANTIATE_TEST_SUITE_P(
+    Bodies, DownloadCap,
+    ::testing::Values(CapCase{"announced_length_within_cap", Sending::LENGTH, false, 100, 2000, true},
+                      CapCase{"exactly_the_cap", Sending::CHUNKED, false, 100, 1700, true},
+                      CapCase{"announced_length_over_cap", Sending::LENGTH, false, 200, 2000, false},
+                      CapCase{"chunked_without_length_over_cap", Sending::CHUNKED, false, 200, 2000, false},
+                      CapCase{"until_close_without_length_over_cap", Sending::UNTIL_CLOSE, false, 200, 2000, false},
+                      CapCase{"one_byte_over_cap", Sending::UNTIL_CLOSE, false, 100, 1699, false},
+                      CapCase{"gzip_within_cap_is_decoded", Sending::LENGTH, true, 100, 2000, true},
+                      CapCase{"gzip_small_on_the_wire_large_decoded", Sending::LENGTH, true, 200, 2000, false},
+                      CapCase{"gzip_chunked_over_cap", Sending::CHUNKED, true, 5000, 2000, false}),
+    [](const auto& i) { return std::string(i.param.name); });
+
+struct FloodCase {
+    const char* name;
+    Sending how;
+    bool gzip;
+    int times;  // of a valid rate line
+};
+class RateListFlood : public BoundedDownload, public ::testing::WithParamInterface<FloodCase> {};
+TEST_P(RateListFlood, StoresNothing) {
+    const FloodCase c = GetParam();
+    serve(wxString(LIST_PATH) + "__date=02.01.2024", "EMU|euro|1|EUR|24,685\n", c.times, c.how, c.gzip);
+    const int before = rates();
+    int stored = -1;
+    EXPECT_FALSE(lxutils::kurzyDownload(day("2024-01-02"), &stored));
+    EXPECT_EQ(stored, 0);
+    EXPECT_EQ(rates(), before);
+    EXPECT_FALSE(wxFileName::FileExists(dataFile("02.01.2024.txt.part")));
+}
+INSTANTIATE_TEST_SUITE_P(
+    Lists, RateListFlood,
+    ::testing::Values(FloodCase{"chunked_without_length", Sending::CHUNKED, false, 100000},
+                      FloodCase{"until_close_without_length", Sending::UNTIL_CLOSE, false, 100000},
+                      FloodCase{"gzip_bomb", Sending::LENGTH, true, 100000},
+                      FloodCase{"more_lines_than_a_list_has_though_small", Sending::LENGTH, false, 1001}),
+    [](const auto& i) { return std::string(i.param.name); });
+
+TEST_F(BoundedDownload, CompressedListOfAThousandLinesIsStillAList) {
+    std::string list = "02.01.2024 #1\n";
+    for (int i = 0; i < 999; ++i) list += "EMU|euro|1|EUR|24,685\n";
+    serve(wxString(LIST_PATH) + "__date=02.01.2024", list, 1, Sending::CHUNKED, true);
+    int stored = 0;
+    ASSERT_TRUE(lxutils::kurzyDownload(day("2024-01-02"), &stored));
+    EXPECT_EQ(stored, 999);
 }

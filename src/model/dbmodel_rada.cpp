@@ -26,6 +26,14 @@ int pocetCislic(long number) {
     return digits;
 }
 
+wxString cisloDokladu(const wxString& prefix, int znaku, long cislo) {
+    const int zeros = znaku - static_cast<int>(prefix.length()) - pocetCislic(cislo);
+    wxString text = prefix;
+    if (zeros > 0) text += wxString('0', zeros);
+    text << cislo;
+    return text;
+}
+
 }  // namespace lxutils
 
 namespace {
@@ -84,12 +92,7 @@ wxString DbModel::getCisloDokladu(const wxString& id) {
     if (isForeignStorage()) return wxString();
     const Rada rada = getRada(id);
     if (!rada.isValid()) return wxString();
-    // Zeros fill the number up to the width; a longer number is kept whole.
-    const int zeros = rada.znaku() - static_cast<int>(rada.prefix().length()) - lxutils::pocetCislic(rada.cislo());
-    wxString cislo = rada.prefix();
-    if (zeros > 0) cislo += wxString('0', zeros);
-    cislo << rada.cislo();
-    return cislo;
+    return lxutils::cisloDokladu(rada.prefix(), rada.znaku(), rada.cislo());
 }
 
 bool DbModel::increaseRadaCislo(const wxString& id) {
