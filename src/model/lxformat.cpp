@@ -2,12 +2,20 @@
 
 #include <algorithm>
 #include <cmath>
+#include <charconv>
 #include <cstdio>
 #include <string>
 
 namespace lxformat {
 
 namespace {
+
+// printf-style fixed notation that ignores LC_NUMERIC: the point is always a point.
+std::string fixed(double value, int decimals) {
+    char buffer[64];
+    const auto [end, ec] = std::to_chars(buffer, buffer + sizeof buffer, value, std::chars_format::fixed, decimals);
+    return ec == std::errc() ? std::string(buffer, end) : std::string("0");
+}
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
@@ -104,11 +112,11 @@ Chyba parseNumber(const wxString& text, bool castka, double* value) {
         if (isdigit(static_cast<unsigned char>(c))) plain += c;
     if (plain.empty()) plain = "0";
     if (!fracPart.empty()) plain += "." + fracPart;
-    // Only digits and one point are left, so the C conversion cannot read anything else
-    // (no exponent, no hexadecimal, no locale).
-    char* end = nullptr;
-    const double v = std::strtod(plain.c_str(), &end);
-    if (end == nullptr || *end != '\0' || !std::isfinite(v)) return Chyba::SYNTAXE;
+    // Only digits and one point are left; from_chars reads them without regard to the
+    // locale the program runs in (a Czech LC_NUMERIC would make strtod expect a comma).
+    double v = 0;
+    const auto [end, ec] = std::from_chars(plain.data(), plain.data() + plain.size(), v);
+    if (ec != std::errc() || end != plain.data() + plain.size() || !std::isfinite(v)) return Chyba::SYNTAXE;
     *value = negative ? -v : v;
     return Chyba::ZADNA;
 }
@@ -214,9 +222,7 @@ wxString datumZprava(const wxString& pole, const wxString& text) {
 
 wxString formatCastka(double value, bool skupiny) {
     if (!std::isfinite(value)) return wxString("?");
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.2f", value);  // the C locale: always a point
-    std::string s = buffer;
+    std::string s = fixed(value, 2);
     if (s == "-0.00") s = "0.00";
     const bool negative = s[0] == '-';
     if (negative) s.erase(0, 1);
@@ -238,9 +244,7 @@ wxString formatCastka(double value, const wxString& mena, bool skupiny) {
 
 wxString formatKurz(double value) {
     if (!std::isfinite(value)) return wxString("?");
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.8f", value);
-    std::string s = buffer;
+    std::string s = fixed(value, 8);
     while (!s.empty() && s.back() == '0') s.pop_back();
     if (!s.empty() && s.back() == '.') s.pop_back();
     if (s == "-0") s = "0";
@@ -250,9 +254,8 @@ wxString formatKurz(double value) {
 }
 
 wxString formatMnozstvi(double value) {
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.3f", value);
-    wxString out = wxString::FromAscii(buffer);
+    if (!std::isfinite(value)) return wxString("?");
+    wxString out = wxString::FromAscii(fixed(value, 3).c_str());
     if (out == "-0.000") out = "0.000";
     out.Replace(".", ",");
     return out;
