@@ -92,7 +92,7 @@ bool KontaktDialog::save() {
     if (!varovani.empty() &&
         !prompts().question(varovani + wxString::FromUTF8("Přesto uložit?"), wxString::FromUTF8("Dotaz"), this)) {
         const Kontakt k = kontakt();
-        const Field first = !k.ic().empty() && !kontaktcheck::isIcValid(k.ic())     ? IC
+        const Field first = !k.ic().empty() && !kontaktcheck::isIcValid(k.ic())      ? IC
                             : !k.dic().empty() && !kontaktcheck::isDicValid(k.dic()) ? DIC
                                                                                      : EMAIL;
         m_fields[first]->SetFocus();

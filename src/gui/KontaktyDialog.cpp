@@ -34,8 +34,8 @@ KontaktyDialog::KontaktyDialog(wxWindow* parent, bool chooser)
       m_chooser(chooser),
       m_rows(std::make_unique<lxTableModel<KontaktView>>(bookshapes::kontakty())) {
     m_rows->reload();
-    m_search = new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
-                                "hledat");
+    m_search =
+        new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator, "hledat");
     m_search->ShowCancelButton(true);
     m_search->SetDescriptiveText(u8("Hledat podle názvu, IČ nebo místa"));
     m_list = new lxListCtrl(this, m_rows.get());
@@ -174,9 +174,8 @@ wxString KontaktyDialog::printKontakty() {
     if (!model) return wxString();
     std::vector<KontaktRadek> radky;
     lxKontaktViewArray kontakty = model->kontaktyview();
-    std::stable_sort(kontakty.begin(), kontakty.end(), [](const auto& a, const auto& b) {
-        return collation::czechCompare(a->nazev(), b->nazev()) < 0;
-    });
+    std::stable_sort(kontakty.begin(), kontakty.end(),
+                     [](const auto& a, const auto& b) { return collation::czechCompare(a->nazev(), b->nazev()) < 0; });
     for (const auto& kontakt : kontakty) {
         const KontaktView& k = *kontakt;
         KontaktRadek r;

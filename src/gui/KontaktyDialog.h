@@ -1,5 +1,6 @@
 // "Adresář": the list of contacts in Czech order of their names, with a search field and add,
-// edit, copy and delete of a contact and its address. Opened from the menu, or as a chooser that returns the chosen contact.
+// edit, copy and delete of a contact and its address. Opened from the menu, or as a chooser
+// that returns the chosen contact.
 #pragma once
 
 #include <wx/dialog.h>

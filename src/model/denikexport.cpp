@@ -15,8 +15,8 @@ wxString lookup(const std::map<int, wxString>& names, int id) {
 }  // namespace
 
 wxArrayString header() {
-    static const char* const CAPTIONS[] = {"Datum",       "Číslo",     "Popis",     "Částka", "Pokladna/účet",
-                                           "Předkontace", "Protistrana", "Paušál",  "Reference", "Výpis",
+    static const char* const CAPTIONS[] = {"Datum",       "Číslo",         "Popis",  "Částka",    "Pokladna/účet",
+                                           "Předkontace", "Protistrana",   "Paušál", "Reference", "Výpis",
                                            "Měna",        "Částka v měně", "Kurz"};
     wxArrayString captions;
     for (const char* c : CAPTIONS) captions.Add(wxString::FromUTF8(c));

@@ -20,11 +20,11 @@ wxArrayString header();
 
 // The codes and names an entry's ids stand for, read once for a whole export.
 struct Nazvy {
-    std::map<int, wxString> pokladny;    // register id → zkratka
-    std::map<int, wxString> banky;       // account id → zkratka
-    std::map<int, wxString> predkontace; // pre-posting id → zkratka
-    std::map<int, wxString> kontakty;    // contact id → nazev
-    std::map<int, wxString> meny;        // currency id → kod
+    std::map<int, wxString> pokladny;     // register id → zkratka
+    std::map<int, wxString> banky;        // account id → zkratka
+    std::map<int, wxString> predkontace;  // pre-posting id → zkratka
+    std::map<int, wxString> kontakty;     // contact id → nazev
+    std::map<int, wxString> meny;         // currency id → kod
     static Nazvy load(DbModel& model);
 };
 

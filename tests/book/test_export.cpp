@@ -35,8 +35,8 @@ const char* const DENIK_HEADER =
 // A journal entry with every field given, for the row builder.
 Denik entry(int pokladna, int banka, int mena, double castka, double cizi, double kurz, int pausal, int vypis,
             int protistrana) {
-    return Denik(7, iso("2026-11-23"), "PP2026/001", u8("Nákup \"A\"; B"), castka, cizi, kurz, "REF-1", pausal, mena,
-                 3, pokladna, banka, vypis, protistrana, 2026);
+    return Denik(7, iso("2026-11-23"), "PP2026/001", u8("Nákup \"A\"; B"), castka, cizi, kurz, "REF-1", pausal, mena, 3,
+                 pokladna, banka, vypis, protistrana, 2026);
 }
 
 }  // namespace
@@ -53,15 +53,19 @@ TEST(DenikExportRow, EveryFieldInTheFormTheImportReads) {
         Denik denik;
         std::vector<const char*> fields;
     } cases[] = {
-        {"cash_in_crowns", entry(1, -1, 1, 1250.5, 1250.5, 1, 0, 0, 0),
+        {"cash_in_crowns",
+         entry(1, -1, 1, 1250.5, 1250.5, 1, 0, 0, 0),
          {"23.11.2026", "PP2026/001", "Nákup \"A\"; B", "1250,50", "POK1", "V001", "", "", "REF-1", "", "", "", ""}},
-        {"bank_in_euros", entry(-1, 1, 2, 25345.5, 1000, 25.3455, 0, 12, 5),
+        {"bank_in_euros",
+         entry(-1, 1, 2, 25345.5, 1000, 25.3455, 0, 12, 5),
          {"23.11.2026", "PP2026/001", "Nákup \"A\"; B", "25345,50", "BU1", "V001", "Řezník s.r.o.", "", "REF-1", "12",
           "EUR", "1000,00", "25,3455"}},
-        {"flat_rate_and_large_amount", entry(1, -1, 1, 1234567.891, 0, 1, 60, 0, 0),
+        {"flat_rate_and_large_amount",
+         entry(1, -1, 1, 1234567.891, 0, 1, 60, 0, 0),
          {"23.11.2026", "PP2026/001", "Nákup \"A\"; B", "1234567,89", "POK1", "V001", "", "60", "REF-1", "", "", "",
           ""}},
-        {"negative_and_unknown_counterparty", entry(1, -1, 1, -0.004, 0, 1, 0, 0, 99),
+        {"negative_and_unknown_counterparty",
+         entry(1, -1, 1, -0.004, 0, 1, 0, 0, 99),
          {"23.11.2026", "PP2026/001", "Nákup \"A\"; B", "0,00", "POK1", "V001", "", "", "REF-1", "", "", "", ""}},
     };
     EXPECT_EQ(denikexport::header().size(), 13u);
@@ -78,14 +82,15 @@ TEST(CsvFile, VisibleColumnsWithSemicolonsBomCrlfAndUngroupedAmounts) {
     shape.source = nullptr;
     lxTableModel<DenikView> rows(shape);
     lxTableModel<DenikView>::Rows loaded;
-    loaded.push_back(std::make_unique<DenikView>(1, iso("2024-03-02"), "D1", u8("Prodej; \"velký\""), 31458, true,
-                                                 "POK1", 0));
+    loaded.push_back(
+        std::make_unique<DenikView>(1, iso("2024-03-02"), "D1", u8("Prodej; \"velký\""), 31458, true, "POK1", 0));
     rows.setRows(std::move(loaded));
     const wxString path = wxFileName::CreateTempFileName("evida-csv");
     ASSERT_TRUE(lxcsv::write(path, rows));
-    EXPECT_EQ(readBytes(path), utf8("\xEF\xBB\xBF"
-                                    "\"Datum\";\"Číslo dokladu\";\"Popis\";\"Částka\";\"Typ\";\"Pokladna\"\r\n"
-                                    "\"02.03.2024\";\"D1\";\"Prodej; \"\"velký\"\"\";\"31458,00\";\"Příjem\";\"POK1\"\r\n"));
+    EXPECT_EQ(readBytes(path),
+              utf8("\xEF\xBB\xBF"
+                   "\"Datum\";\"Číslo dokladu\";\"Popis\";\"Částka\";\"Typ\";\"Pokladna\"\r\n"
+                   "\"02.03.2024\";\"D1\";\"Prodej; \"\"velký\"\"\";\"31458,00\";\"Příjem\";\"POK1\"\r\n"));
 
     ASSERT_TRUE(lxcsv::write(path, rows, lxcsv::Kodovani::WINDOWS1250));
     const std::string cp = readBytes(path);
@@ -128,12 +133,13 @@ class JournalExport : public BookTest {
 TEST_F(JournalExport, WholeEntriesInTheShownOrderAndSaysWhereSaved) {
     m_prompts.answerPath(m_home + u8("/deník"));
     m_page->exportCsv();
-    EXPECT_EQ(readBytes(m_home + u8("/deník.csv")),
-              utf8("\xEF\xBB\xBF") + DENIK_HEADER +
-                  "\"15.02.2024\";\"D002\";\"materiál\";\"300,00\";\"BU1\";\"V001\";\"\";\"\";\"\";\"7\";\"\";\"\";\"\"\r\n"
-                  "\"02.03.2024\";\"D001\";\"Prodej zboží\";\"1200,50\";\"POK1\";\"P001\";\"\";\"\";\"\";\"\";\"\";\"\";"
-                  "\"\"\r\n"
-                  "\"02.03.2024\";\"D003\";\"Nájem\";\"50,00\";\"POK1\";\"V008\";\"\";\"\";\"\";\"\";\"\";\"\";\"\"\r\n");
+    EXPECT_EQ(
+        readBytes(m_home + u8("/deník.csv")),
+        utf8("\xEF\xBB\xBF") + DENIK_HEADER +
+            "\"15.02.2024\";\"D002\";\"materiál\";\"300,00\";\"BU1\";\"V001\";\"\";\"\";\"\";\"7\";\"\";\"\";\"\"\r\n"
+            "\"02.03.2024\";\"D001\";\"Prodej zboží\";\"1200,50\";\"POK1\";\"P001\";\"\";\"\";\"\";\"\";\"\";\"\";"
+            "\"\"\r\n"
+            "\"02.03.2024\";\"D003\";\"Nájem\";\"50,00\";\"POK1\";\"V008\";\"\";\"\";\"\";\"\";\"\";\"\";\"\"\r\n");
     ASSERT_FALSE(m_prompts.shown().empty());
     EXPECT_EQ(m_prompts.shown().back().text, u8("Uloženo do ") + m_home + u8("/deník.csv"));
     EXPECT_EQ(m_prompts.shown().back().caption, u8("Informace"));

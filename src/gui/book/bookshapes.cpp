@@ -49,8 +49,9 @@ lxColumn<Row> dateColumn(const char* caption, int width, Get get, bool withTime 
 // Money in the Czech form, "31 458,00" (thousands grouped by a no-break space), whatever the
 // system locale; `format` may give another form (stock quantities).
 template <class Row, class Get>
-lxColumn<Row> amountColumn(const char* caption, int width, Get get,
-                           wxString (*format)(double) = [](double v) { return lxformat::formatCastka(v); }) {
+lxColumn<Row> amountColumn(
+    const char* caption, int width, Get get,
+    wxString (*format)(double) = [](double v) { return lxformat::formatCastka(v); }) {
     return {{u8(caption), width, true},
             [get, format](const Row& r) { return format(static_cast<double>(std::invoke(get, r))); },
             [get](const Row& r) { return static_cast<double>(std::invoke(get, r)); }};
@@ -188,11 +189,11 @@ lxPageShape<DenikView> denik(int nav) {
         for (const auto& d : model->denik()) (*predkontace)[d->id()] = d->predkontaceid();
         for (const auto& p : model->predkontace()) {
             const int id = p->id();
-            choices.push_back({u8("Předkontace ") + p->zkratka() + " " + p->popis(),
-                               [predkontace, id](const DenikView& r) {
-                                   const auto it = predkontace->find(r.id());
-                                   return it != predkontace->end() && it->second == id;
-                               }});
+            choices.push_back(
+                {u8("Předkontace ") + p->zkratka() + " " + p->popis(), [predkontace, id](const DenikView& r) {
+                     const auto it = predkontace->find(r.id());
+                     return it != predkontace->end() && it->second == id;
+                 }});
         }
         return choices;
     };

@@ -207,7 +207,8 @@ class lxTableModel : public lxRowModel {
             key = TextKey{{0, 0}, static_cast<std::uint32_t>(i), texts[i].size() <= 16};
             const std::size_t n = std::min<std::size_t>(texts[i].size(), 16);
             for (std::size_t b = 0; b < n; ++b)
-                key.head[b / 8] |= static_cast<std::uint64_t>(static_cast<unsigned char>(texts[i][b])) << (8 * (7 - b % 8));
+                key.head[b / 8] |= static_cast<std::uint64_t>(static_cast<unsigned char>(texts[i][b]))
+                                   << (8 * (7 - b % 8));
         }
         const auto compare = [&texts](const TextKey& a, const TextKey& b) {
             if (a.head[0] != b.head[0]) return a.head[0] < b.head[0] ? -1 : 1;
