@@ -2,7 +2,9 @@
 
 #include <wx/app.h>
 #include <wx/busyinfo.h>
+#include <wx/config.h>
 #include <wx/dcmemory.h>
+#include <wx/display.h>
 #include <wx/filename.h>
 #include <wx/html/helpctrl.h>
 #include <wx/menu.h>
@@ -22,6 +24,7 @@
 #include "companyfiles.h"
 #include "companysetup.h"
 #include "dbmodel.h"
+#include "lxformat.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 #include "navigation.h"
@@ -51,7 +54,36 @@ wxBitmap splashBitmap() {
     return bitmap;
 }
 
+// The size of the first start, 1200 × 800: the whole toolbar of a book page and every column
+// of the journal beside the navigation; on a screen without room for that and a margin
+// around it, 80 % of the screen. Centred.
+wxSize firstStartSize(const wxRect& area) {
+    return wxSize(area.width >= 1260 ? 1200 : area.width * 4 / 5, area.height >= 840 ? 800 : area.height * 4 / 5);
+}
+
+wxRect firstStartRect(const wxRect& area) {
+    const wxSize size = firstStartSize(area);
+    return wxRect(area.x + (area.width - size.x) / 2, area.y + (area.height - size.y) / 2, size.x, size.y);
+}
+
 }  // namespace
+
+wxRect evidaFrame::initialRect() {
+    lxSettings* settings = lxSettings::instance();
+    const wxRect saved(settings->x(), settings->y(), settings->w(), settings->h());
+    const int shown = wxDisplay::GetFromPoint(saved.GetTopLeft() + wxPoint(40, 20));
+    const wxRect area = wxDisplay(shown != wxNOT_FOUND ? static_cast<unsigned>(shown) : 0u).GetClientArea();
+    // Before the first close the settings file holds no geometry, or the settings' defaults
+    // (50, 50, 888 × 666) when it was saved before the window ever closed; a geometry that no
+    // screen shows any more (a monitor unplugged) is as good as none.
+    const wxConfigBase* config = wxConfigBase::Get(false);
+    const bool placed = config && config->HasEntry("/GUI/w") && config->HasEntry("/GUI/h") &&
+                        saved != wxRect(50, 50, 888, 666);
+    if (!placed || shown == wxNOT_FOUND || saved.width < 200 || saved.height < 150) return firstStartRect(area);
+    return saved;
+}
+
+void evidaFrame::placeWindow() { SetSize(initialRect()); }
 
 wxString evidaFrame::resourcesDir() {
     const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
@@ -89,7 +121,7 @@ evidaFrame::evidaFrame(const wxString& title) : wxFrame(nullptr, wxID_ANY, title
     if (!m_mgr.LoadPerspective(settings->auiperspective())) m_mgr.LoadPerspective(lxSettings::DEFAULT_PERSPECTIVE);
     m_mgr.Update();
 
-    SetSize(settings->x(), settings->y(), settings->w(), settings->h());
+    placeWindow();
     if (settings->maximized()) Maximize();
 
     Bind(MODEL_UPDATED, &evidaFrame::onModelUpdated, this);
@@ -207,7 +239,7 @@ void evidaFrame::updateStatusBar() {
     const Firma& firma = m_model->firma();
     SetStatusText(wxString::Format(u8("%s, IČ: %s"), firma.nazev(), firma.ic()), 0);
     SetStatusText(wxString::Format("%d", m_model->currentRok()), 1);
-    SetStatusText(wxString::Format("Datum: %s", lxSettings::instance()->datum().Format("%x")), 2);
+    SetStatusText("Datum: " + lxformat::formatDatum(lxSettings::instance()->datum()), 2);
 }
 
 void evidaFrame::refreshPages(int nav) {

@@ -76,12 +76,16 @@ class evidaFrame : public wxFrame {
     // Where the help book, icon and message catalogues are: "../Resources" beside the
     // program, the installed share directory, or the source tree when run from a build.
     static wxString resourcesDir();
+    // Where the window opens: as it was left, or on the first start (and when no screen shows
+    // the saved place any more) 1200×800, or 80 % of a smaller screen, centred.
+    static wxRect initialRect();
 
  private:
     // --- evidaframe.cpp ---
     bool loadDatabase();
     // Steps that end every load of a company: settings, commands, date, pages, status bar.
     void finishLoad();
+    void placeWindow();
     void showSplash();
     void closeSplash();
     void updateStatusBar();

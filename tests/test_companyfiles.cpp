@@ -92,7 +92,7 @@ TEST_F(CompanyFiles, BackupCopiesEveryCompanyIntoTheDatedDirectoryAndOverwritesO
     const wxString dated = target + "/evida-2025-06-20";
     EXPECT_EQ(lxutils::zalohaDir(target), dated);
     EXPECT_TRUE(wxFileName::FileExists(dated + "/Alfa_111.db"));
-    EXPECT_TRUE(wxFileName::FileExists(dated + "/Beta-Gama_222.db"));
+    EXPECT_TRUE(wxFileName::FileExists(dated + "/Beta_Gama_222.db"));
 
     // The second backup of the day replaces the copies with the files as they are now.
     ASSERT_TRUE(m_model->openDatabase(alfa));
@@ -113,6 +113,53 @@ TEST_F(CompanyFiles, BackupCopiesEveryCompanyIntoTheDatedDirectoryAndOverwritesO
 
     s()->addDbnamePair("evida9.db", "Ztracena_9");  // a listed company without its file
     EXPECT_FALSE(lxutils::zalohaDat(target));
+}
+
+// Backups go to USB sticks formatted FAT, exFAT or NTFS: the file name carries none of the
+// characters those refuse, and no trailing dot or space that Windows would drop.
+TEST(BackupName, ReplacesWhatRemovableDrivesRefuse) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"Alfa_111", "Alfa_111.db"},
+        {"Firma \"A/B\": s.r.o._12345678", "Firma _A_B__ s.r.o._12345678.db"},
+        {"a*b?c<d>e|f\\g_1", "a_b_c_d_e_f_g_1.db"},
+        {"Tab\tNový\nřádek_2", "Tab_Nový_řádek_2.db"},
+        {"Čistá firma s.r.o._", "Čistá firma s.r.o._.db"},
+        {"Konec tečkou._", "Konec tečkou._.db"},
+        {"Bez IČ. ", "Bez IČ__.db"},
+        {"...", "___.db"},
+        {"", "_.db"},
+    };
+    for (const auto& [key, name] : cases)
+        EXPECT_EQ(companyfiles::zalohaName(wxString::FromUTF8(key)), wxString::FromUTF8(name)) << key;
+}
+
+TEST_F(CompanyFiles, OddlyNamedCompanyIsBackedUpAndRestoredByTheNameInsideTheFile) {
+    const wxString nazev = wxString::FromUTF8("Firma \"A/B\": s.r.o.");
+    const wxString own = addCompany("evida1.db", nazev, "12345678");
+    addCompany("evida2.db", "Beta", "222");
+    const wxString target = m_home + "/usb";
+    ASSERT_TRUE(lxutils::zalohaDat(target));
+    const wxString copy = target + "/evida-2025-06-20/" + wxString::FromUTF8("Firma _A_B__ s.r.o._12345678.db");
+    ASSERT_TRUE(wxFileName::FileExists(copy));
+
+    using companyfiles::Obnova;
+    EXPECT_EQ(companyfiles::checkZaloha(copy, nazev, "12345678"), Obnova::OK);
+    EXPECT_EQ(companyfiles::checkZaloha(copy, wxString::FromUTF8("Firma _A_B__ s.r.o."), "12345678"),
+              Obnova::JINA_FIRMA)
+        << "the name inside the copy is the company's, not the file's";
+
+    // The data of the company changes after the backup; the restore brings the copy back.
+    ASSERT_TRUE(m_model->openDatabase(own));
+    m_model->fillData();
+    Firma f = m_model->firma();
+    f.setDic("CZ12345678");
+    m_model->setFirma(f);
+    m_model->closeDatabase();
+    ASSERT_TRUE(companyfiles::replaceDatabase(copy, own));
+    ASSERT_TRUE(m_model->openDatabase(own));
+    m_model->fillData();
+    EXPECT_EQ(m_model->firma().nazev(), nazev);
+    EXPECT_NE(m_model->firma().dic(), "CZ12345678") << "the restored copy predates the change";
 }
 
 TEST_F(CompanyFiles, RestoreAcceptsOnlyABackupOfTheSameCompany) {

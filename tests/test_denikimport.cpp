@@ -225,9 +225,9 @@ TEST_F(DenikImportTest, CommandLineImportsAndPrintsBalances) {
     const CliResult stav = runCli("stav " + m_path);
     EXPECT_EQ(stav.status, 0);
     EXPECT_EQ(stav.output, std::string(u8("Pokladny:\n"
-                                          "POK1 (Výchozí pokladna): 10.00 CZK\n"
+                                          "POK1 (Výchozí pokladna): 10,00 CZK\n"
                                           "Banky:\n"
-                                          "BU1 (Výchozí bankovní účet): -5.00 CZK\n")
+                                          "BU1 (Výchozí bankovní účet): -5,00 CZK\n")
                                            .utf8_str()));
 }
 

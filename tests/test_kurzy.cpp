@@ -10,6 +10,7 @@
 #include <wx/filename.h>
 #include <wx/utils.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstring>
 #include <string>
@@ -216,6 +217,46 @@ TEST_F(Currencies, ForeignStorageAnswersNothing) {
     EXPECT_FALSE(m_model->getKurz("EUR", day("2024-03-01")).isValid());
     EXPECT_FALSE(lxutils::kurzyDownload(day("2024-03-01")));
     lxSettings::instance()->setDbmodel(DBMODEL_SQLITE);
+}
+
+// The seeded starting rates are per ONE unit, like the downloaded ones: a seed of JPY copied as
+// the bank quotes it (per 100) would make an entry on that day a hundred times too dear.
+TEST_F(Currencies, SeededJapaneseYenIsPerOneYen) {
+    EXPECT_NEAR(m_model->getKurz("JPY", day("2005-01-03")).hodnota(), 0.21815, 1e-12);
+    EXPECT_NEAR(m_model->getKurz("JPY", day("2021-12-24")).hodnota(), 0.1935, 1e-12);
+    EXPECT_NEAR(m_model->getKurz("IDR", day("2021-12-24")).hodnota(), 0.001558, 1e-12);
+}
+
+// What one unit of each seeded currency was worth in CZK between 2005 and 2021, with room
+// to spare but far narrower than a factor of 100: a seed left per 100 or per 1000 units,
+// or divided twice, falls outside.
+TEST_F(Currencies, EverySeededRateIsPlausiblePerOneUnit) {
+    const struct {
+        const char* kod;
+        double od, az;
+    } ranges[] = {{"AUD", 12, 25},      {"BGN", 10, 20},       {"BRL", 3, 15},       {"CAD", 12, 25},
+                  {"CHF", 15, 30},      {"CNY", 2.5, 4.5},     {"CYP", 40, 60},      {"DKK", 2.5, 5},
+                  {"EEK", 1, 3},        {"EUR", 20, 35},       {"GBP", 25, 50},      {"HKD", 1.5, 4},
+                  {"HRK", 3, 5},        {"HUF", 0.05, 0.2},    {"IDR", 0.001, 0.003}, {"ILS", 5, 8},
+                  {"INR", 0.2, 0.5},    {"ISK", 0.1, 0.5},     {"JPY", 0.1, 0.35},   {"KRW", 0.01, 0.03},
+                  {"LTL", 5, 12},       {"LVL", 30, 60},       {"MTL", 50, 90},      {"MXN", 0.8, 2.5},
+                  {"MYR", 4, 8},        {"NOK", 2, 5},         {"NZD", 12, 20},      {"PHP", 0.3, 0.7},
+                  {"PLN", 5, 10},       {"ROL", 0.0003, 0.002}, {"RON", 4, 8},        {"RUB", 0.2, 1},
+                  {"SEK", 2, 4.5},      {"SGD", 10, 20},       {"SIT", 0.08, 0.2},   {"SKK", 0.5, 1.2},
+                  {"THB", 0.5, 1},      {"TRL", 5e-6, 5e-5},   {"TRY", 1, 15},       {"USD", 15, 30},
+                  {"XDR", 25, 40},      {"ZAR", 1, 5}};
+    wxSQLite3ResultSet rs = m_model->db().ExecuteQuery("SELECT kod, hodnota, datum FROM kurz ORDER BY id");
+    int seen = 0;
+    while (rs.NextRow()) {
+        ++seen;
+        const wxString kod = rs.GetAsString(0);
+        const double hodnota = rs.GetDouble(1);
+        const auto* r = std::find_if(std::begin(ranges), std::end(ranges), [&](const auto& x) { return kod == x.kod; });
+        ASSERT_NE(r, std::end(ranges)) << "no plausible range known for " << kod;
+        EXPECT_GE(hodnota, r->od) << kod << " " << rs.GetAsString(2);
+        EXPECT_LE(hodnota, r->az) << kod << " " << rs.GetAsString(2);
+    }
+    EXPECT_EQ(seen, 95);
 }
 
 // A company with a rate server on loopback that the download URLs point to.

@@ -91,13 +91,13 @@ TEST_F(Balances, AllBalancesAgreeWithEachRegisterAndFormTheMessage) {
         EXPECT_NEAR(s.stav, s.banka ? m_model->getBankaStav(s.id) : m_model->getPokladnaStav(s.id), 1e-9) << s.zkratka;
     }
     EXPECT_EQ(m_model->stavUctuAPokladen(), u8("Pokladny:\n"
-                                               "OLD (Stará): 200.00 CZK\n"
-                                               "POK1 (Výchozí pokladna): 750.00 CZK\n"
-                                               "USD1 (Dolary): 80.00 USD\n"
-                                               "ZERO (Nula): 0.00 CZK\n"
+                                               "OLD (Stará): 200,00 CZK\n"
+                                               "POK1 (Výchozí pokladna): 750,00 CZK\n"
+                                               "USD1 (Dolary): 80,00 USD\n"
+                                               "ZERO (Nula): 0,00 CZK\n"
                                                "Banky:\n"
-                                               "BU1 (Výchozí bankovní účet): 500.00 CZK\n"
-                                               "EURB (Eura): 5.00 EUR\n"));
+                                               "BU1 (Výchozí bankovní účet): 500,00 CZK\n"
+                                               "EURB (Eura): 5,00 EUR\n"));
 }
 
 class Registers : public TestCompany {

@@ -168,13 +168,13 @@ TEST_F(BookViews, IncomeAndExpenseFollowTheColumnOfThePrePosting) {
     entry("V201", 5);  // column 31 "Průběžné položky - příjem" is an expense column
     entry("P001", 1000, "2023-06-01", 1, 2023);
 
-    EXPECT_EQ(m_model->homepagePrijmy(), u8("<b>Příjmy:</b><br>Daňové: 100.00 Kč<br>Celkem: 150.00 Kč<br><br>"));
-    EXPECT_EQ(m_model->homepageVydaje(), u8("<b>Výdaje:</b><br>Daňové: 30.00 Kč<br>Celkem: 55.00 Kč<br><br>"));
+    EXPECT_EQ(m_model->homepagePrijmy(), u8("<b>Příjmy:</b><br>Daňové: 100,00 Kč<br>Celkem: 150,00 Kč<br><br>"));
+    EXPECT_EQ(m_model->homepageVydaje(), u8("<b>Výdaje:</b><br>Daňové: 30,00 Kč<br>Celkem: 55,00 Kč<br><br>"));
 }
 
 TEST_F(BookViews, UnpaidDocumentsAreCountedInHomeCurrency) {
     EXPECT_EQ(m_model->homepagePrijate(),
-              u8("<b>Přijaté faktury:</b><br>Neuhrazené: 0<br>Celkem: 0.00 Kč<br>Po splatnosti: 0<br><br>"));
+              u8("<b>Přijaté faktury:</b><br>Neuhrazené: 0<br>Celkem: 0,00 Kč<br>Po splatnosti: 0<br><br>"));
 
     pay(faktura(true, 1210, 0, "2024-05-01"), -1, 605);   // half paid, overdue
     pay(faktura(true, 1000, 1, "2024-05-01"), -1, 1000);  // paid
@@ -189,11 +189,11 @@ TEST_F(BookViews, UnpaidDocumentsAreCountedInHomeCurrency) {
     zavpoh(true, 250, 2, "");
 
     EXPECT_EQ(m_model->homepageVydane(),
-              u8("<b>Vydané faktury:</b><br>Neuhrazené: 3<br>Celkem: 3760.00 Kč<br>Po splatnosti: 2<br><br>"));
+              u8("<b>Vydané faktury:</b><br>Neuhrazené: 3<br>Celkem: 3\u00A0760,00 Kč<br>Po splatnosti: 2<br><br>"));
     EXPECT_EQ(m_model->homepagePrijate(),
-              u8("<b>Přijaté faktury:</b><br>Neuhrazené: 1<br>Celkem: 400.00 Kč<br>Po splatnosti: 0<br><br>"));
+              u8("<b>Přijaté faktury:</b><br>Neuhrazené: 1<br>Celkem: 400,00 Kč<br>Po splatnosti: 0<br><br>"));
     EXPECT_EQ(m_model->homepagePohledavky(),
-              u8("<b>Pohledávky:</b><br>Neuhrazené: 1<br>Celkem: 300.00 Kč<br>Po splatnosti: 1<br><br>"));
+              u8("<b>Pohledávky:</b><br>Neuhrazené: 1<br>Celkem: 300,00 Kč<br>Po splatnosti: 1<br><br>"));
     EXPECT_EQ(m_model->homepageZavazky(),
-              u8("<b>Závazky:</b><br>Neuhrazené: 1<br>Celkem: 500.00 Kč<br>Po splatnosti: 0<br><br>"));
+              u8("<b>Závazky:</b><br>Neuhrazené: 1<br>Celkem: 500,00 Kč<br>Po splatnosti: 0<br><br>"));
 }

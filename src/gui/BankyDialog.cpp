@@ -2,6 +2,7 @@
 
 #include "BankaDialog.h"
 #include "dbmodel.h"
+#include "lxformat.h"
 #include "prompts.h"
 
 namespace {
@@ -38,7 +39,7 @@ std::vector<CiselnikDialog::Row> BankyDialog::rows() {
         wxArrayString cells;
         cells.Add(s.zkratka);
         cells.Add(s.popis);
-        cells.Add(wxString::Format("%.2f", s.stav));
+        cells.Add(lxformat::formatCastka(s.stav));
         cells.Add(s.mena);
         all.push_back({s.id, cells});
     }

@@ -6,6 +6,7 @@
 #include <wx/textctrl.h>
 
 #include "dbmodel.h"
+#include "kontaktcheck.h"
 #include "prompts.h"
 
 namespace {
@@ -83,6 +84,18 @@ bool KontaktDialog::save() {
     if (value(NAZEV).empty()) {
         prompts().info(wxString::FromUTF8("Název nemůže být prázdný"), wxString(), this);
         m_fields[NAZEV]->SetFocus();
+        return false;
+    }
+    // A number that fails its check is most often a typo, but a foreign partner's may not fit
+    // our rules: the user decides.
+    const wxString varovani = kontaktcheck::warnings(kontakt());
+    if (!varovani.empty() &&
+        !prompts().question(varovani + wxString::FromUTF8("Přesto uložit?"), wxString::FromUTF8("Dotaz"), this)) {
+        const Kontakt k = kontakt();
+        const Field first = !k.ic().empty() && !kontaktcheck::isIcValid(k.ic())      ? IC
+                            : !k.dic().empty() && !kontaktcheck::isDicValid(k.dic()) ? DIC
+                                                                                     : EMAIL;
+        m_fields[first]->SetFocus();
         return false;
     }
     DbModel* model = DbModel::instance();

@@ -20,7 +20,8 @@ class KontaktDialog : public wxDialog {
     Kontakt kontakt() const;
     Adresa adresa() const;
     // Checks the form and stores it. False, after telling the user why, when the name is
-    // empty or the database refused the write.
+    // empty or the database refused the write; also when the IČ, DIČ or e-mail fails its
+    // check and the user, asked, does not want it saved anyway.
     bool save();
     // The stored contact's id (a new one after its first save), or -1.
     int kontaktId() const { return m_kontakt.id(); }

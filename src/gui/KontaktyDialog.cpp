@@ -3,10 +3,14 @@
 #include <wx/button.h>
 #include <wx/menu.h>
 #include <wx/sizer.h>
+#include <wx/srchctrl.h>
+
+#include <algorithm>
 
 #include "KontaktDialog.h"
 #include "book/bookshapes.h"
 #include "book/lxlistctrl.h"
+#include "collation.h"
 #include "printchoice.h"
 #include "prompts.h"
 #include "seznamkontaktuprint.h"
@@ -25,11 +29,15 @@ enum { ID_CHOOSE = wxID_HIGHEST + 300, ID_PRINT };
 }  // namespace
 
 KontaktyDialog::KontaktyDialog(wxWindow* parent, bool chooser)
-    : wxDialog(parent, wxID_ANY, u8("Adresář"), wxDefaultPosition, wxSize(820, 480),
+    : wxDialog(parent, wxID_ANY, u8("Adresář"), wxDefaultPosition, wxSize(900, 500),
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       m_chooser(chooser),
       m_rows(std::make_unique<lxTableModel<KontaktView>>(bookshapes::kontakty())) {
     m_rows->reload();
+    m_search =
+        new wxSearchCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator, "hledat");
+    m_search->ShowCancelButton(true);
+    m_search->SetDescriptiveText(u8("Hledat podle názvu, IČ nebo místa"));
     m_list = new lxListCtrl(this, m_rows.get());
 
     auto* buttons = new wxBoxSizer(wxVERTICAL);
@@ -52,8 +60,11 @@ KontaktyDialog::KontaktyDialog(wxWindow* parent, bool chooser)
     buttons->AddStretchSpacer();
     button(wxID_CANCEL, "&Zavřít");
 
+    auto* left = new wxBoxSizer(wxVERTICAL);
+    left->Add(m_search, wxSizerFlags().Expand().Border(wxBOTTOM, 6));
+    left->Add(m_list, wxSizerFlags(1).Expand());
     auto* top = new wxBoxSizer(wxHORIZONTAL);
-    top->Add(m_list, wxSizerFlags(1).Expand().Border(wxALL, 10));
+    top->Add(left, wxSizerFlags(1).Expand().Border(wxALL, 10));
     top->Add(buttons, wxSizerFlags().Expand().Border(wxTOP | wxRIGHT | wxBOTTOM, 10));
     SetSizer(top);
 
@@ -79,6 +90,22 @@ KontaktyDialog::KontaktyDialog(wxWindow* parent, bool chooser)
         e.Skip();
     });
     m_list->Bind(wxEVT_CONTEXT_MENU, &KontaktyDialog::onContextMenu, this);
+    // The list narrows with every typed letter.
+    m_search->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { search(m_search->GetValue()); });
+    m_search->Bind(wxEVT_SEARCHCTRL_CANCEL_BTN, [this](wxCommandEvent&) {
+        m_search->ChangeValue(wxString());
+        search(wxString());
+    });
+    updateButtons();
+    m_search->SetFocus();
+}
+
+void KontaktyDialog::search(const wxString& text) {
+    lxFilter filter;
+    filter.text = text.Strip(wxString::both);
+    m_list->apply([&filter](lxRowModel& rows) { rows.setFilter(filter); });
+    // One match is selected, ready for Enter in a chooser.
+    if (m_rows->rowCount() == 1) m_list->selectId(m_rows->id(0));
     updateButtons();
 }
 
@@ -146,7 +173,10 @@ wxString KontaktyDialog::printKontakty() {
     DbModel* model = openModel();
     if (!model) return wxString();
     std::vector<KontaktRadek> radky;
-    for (const auto& kontakt : model->kontaktyview()) {
+    lxKontaktViewArray kontakty = model->kontaktyview();
+    std::stable_sort(kontakty.begin(), kontakty.end(),
+                     [](const auto& a, const auto& b) { return collation::czechCompare(a->nazev(), b->nazev()) < 0; });
+    for (const auto& kontakt : kontakty) {
         const KontaktView& k = *kontakt;
         KontaktRadek r;
         r.nazev = k.nazev();

@@ -1,5 +1,6 @@
-// "Adresář": the list of contacts with add, edit, copy and delete of a contact and its
-// address. Opened from the menu, or as a chooser that returns the chosen contact.
+// "Adresář": the list of contacts in Czech order of their names, with a search field and add,
+// edit, copy and delete of a contact and its address. Opened from the menu, or as a chooser
+// that returns the chosen contact.
 #pragma once
 
 #include <wx/dialog.h>
@@ -9,6 +10,7 @@
 class lxListCtrl;
 class lxRowModel;
 class wxButton;
+class wxSearchCtrl;
 
 class KontaktyDialog : public wxDialog {
  public:
@@ -28,6 +30,10 @@ class KontaktyDialog : public wxDialog {
     wxString printKontakty();
 
     lxListCtrl* list() const { return m_list; }
+    wxSearchCtrl* searchField() const { return m_search; }
+    // Shows only the contacts whose name, IČ or town contains the text, regardless of case
+    // and accents; an empty text shows them all.
+    void search(const wxString& text);
     // Reads the contacts again.
     void refresh();
 
@@ -38,6 +44,7 @@ class KontaktyDialog : public wxDialog {
     bool m_chooser;
     int m_chosen = -1;
     std::unique_ptr<lxRowModel> m_rows;
+    wxSearchCtrl* m_search = nullptr;
     lxListCtrl* m_list = nullptr;
     wxButton* m_edit = nullptr;
     wxButton* m_copy = nullptr;

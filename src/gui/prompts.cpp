@@ -54,6 +54,13 @@ class DialogPrompts : public Prompts {
                          save ? wxFD_SAVE | wxFD_OVERWRITE_PROMPT : wxFD_OPEN | wxFD_FILE_MUST_EXIST);
         return dlg.ShowModal() == wxID_OK ? dlg.GetPath() : wxString();
     }
+    wxString chooseSaveFile(const wxString& message, const wxString& start, const wxString& defaultName,
+                            const wxString& wildcard, int* type, wxWindow* parent) override {
+        wxFileDialog dlg(parent, message, start, defaultName, wildcard, wxFD_SAVE | wxFD_OVERWRITE_PROMPT);
+        if (dlg.ShowModal() != wxID_OK) return wxString();
+        if (type) *type = dlg.GetFilterIndex();
+        return dlg.GetPath();
+    }
 };
 
 DialogPrompts& dialogPrompts() {
@@ -64,6 +71,12 @@ DialogPrompts& dialogPrompts() {
 Prompts* g_prompts = nullptr;
 
 } // namespace
+
+wxString Prompts::chooseSaveFile(const wxString& message, const wxString& start, const wxString& defaultName,
+                                const wxString& wildcard, int* type, wxWindow* parent) {
+    if (type) *type = 0;
+    return chooseFile(message, start, defaultName, wildcard, true, parent);
+}
 
 Prompts& prompts() { return g_prompts ? *g_prompts : dialogPrompts(); }
 
@@ -141,5 +154,14 @@ wxString ScriptedPrompts::chooseFile(const wxString& message, const wxString&, c
     if (m_paths.empty()) return wxString();
     const wxString path = m_paths.front();
     m_paths.pop_front();
+    return path;
+}
+
+wxString ScriptedPrompts::chooseSaveFile(const wxString& message, const wxString& start, const wxString& defaultName,
+                                         const wxString& wildcard, int* type, wxWindow* parent) {
+    const int chosen = m_types.empty() ? 0 : m_types.front();
+    if (!m_types.empty()) m_types.pop_front();
+    const wxString path = chooseFile(message, start, defaultName, wildcard, true, parent);
+    if (type) *type = chosen;
     return path;
 }

@@ -36,6 +36,10 @@ class Prompts {
     // A file chooser for opening (save = false) or saving; empty on Cancel.
     virtual wxString chooseFile(const wxString& message, const wxString& start, const wxString& defaultName,
                                 const wxString& wildcard, bool save, wxWindow* parent = nullptr) = 0;
+    // A save chooser offering several file types (a wildcard of several "text|pattern" pairs);
+    // *type receives the index of the chosen one. Empty on Cancel.
+    virtual wxString chooseSaveFile(const wxString& message, const wxString& start, const wxString& defaultName,
+                                    const wxString& wildcard, int* type, wxWindow* parent = nullptr);
 };
 
 // The prompts in use: the real dialogs unless a test installed others.
@@ -59,6 +63,8 @@ class ScriptedPrompts : public Prompts {
     void answerNumber(long number) { m_numbers.push_back(number); }
     void answerChoice(int index) { m_choices.push_back(index); }
     void answerPath(const wxString& path) { m_paths.push_back(path); }
+    // The file type chosen with the next saved path (0 when none is queued).
+    void answerFileType(int type) { m_types.push_back(type); }
 
     const std::vector<Shown>& shown() const { return m_shown; }
     // The texts shown so far, each followed by a line break, for quick assertions.
@@ -76,6 +82,8 @@ class ScriptedPrompts : public Prompts {
     wxString chooseDirectory(const wxString& message, const wxString& start, wxWindow*) override;
     wxString chooseFile(const wxString& message, const wxString& start, const wxString& defaultName,
                         const wxString& wildcard, bool save, wxWindow*) override;
+    wxString chooseSaveFile(const wxString& message, const wxString& start, const wxString& defaultName,
+                            const wxString& wildcard, int* type, wxWindow*) override;
 
     // The limits of the last number entry, so tests can check the offered range.
     long lastMin = 0, lastMax = 0;
@@ -90,4 +98,5 @@ class ScriptedPrompts : public Prompts {
     std::deque<long> m_numbers;
     std::deque<int> m_choices;
     std::deque<wxString> m_paths;
+    std::deque<int> m_types;
 };

@@ -37,11 +37,9 @@ bool zalohaDat(const wxString& directory) {
     if (settings->dbmodel() != DBMODEL_SQLITE) return true;
     bool ok = true;
     for (const auto& [dbname, key] : settings->dbmap()) {
-        // A company name may hold a slash; in a file name it would point into a directory.
-        wxString name = key;
-        name.Replace("/", "-");
         const wxString source = dataDir() + "/" + dbname;
-        if (!wxFileName::FileExists(source) || !wxCopyFile(source, target + "/" + name + ".db", true)) {
+        if (!wxFileName::FileExists(source) ||
+            !wxCopyFile(source, target + "/" + companyfiles::zalohaName(key), true)) {
             wxLogVerbose(wxString::FromUTF8("Zálohu souboru %s nelze vytvořit"), source);
             ok = false;
         }
@@ -95,6 +93,23 @@ bool haveCiselniky() {
 }  // namespace lxutils
 
 namespace companyfiles {
+
+wxString zalohaName(const wxString& key) {
+    // What FAT, exFAT and NTFS refuse in a file name; a backup on a USB stick must be writable.
+    static const wxString REFUSED = "\"*:<>?\\/|";
+    wxString name;
+    name.reserve(key.length() + 3);
+    for (const wxUniChar c : key) {
+        const bool control = c.GetValue() < 0x20 || c.GetValue() == 0x7F;
+        name += control || REFUSED.Find(c) != wxNOT_FOUND ? wxUniChar('_') : c;
+    }
+    // Windows drops trailing dots and spaces, so two companies could meet in one file.
+    size_t end = name.length();
+    while (end > 0 && (name[end - 1] == '.' || name[end - 1] == ' ')) --end;
+    for (size_t i = end; i < name.length(); ++i) name[i] = '_';
+    if (name.empty()) name = "_";
+    return name + ".db";
+}
 
 wxString firmaKey(const wxString& nazev, const wxString& ic) { return nazev + "_" + ic; }
 

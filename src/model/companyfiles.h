@@ -19,7 +19,7 @@ wxDateTime todayForObdobi();
 
 // The dated directory a backup made today goes to: directory + "/evida-%Y-%m-%d".
 wxString zalohaDir(const wxString& directory);
-// Copies every company's database into zalohaDir(directory) as "<company key>.db",
+// Copies every company's database into zalohaDir(directory) as companyfiles::zalohaName(key),
 // overwriting older copies of the same day. False when the directory cannot be made or a
 // copy fails.
 bool zalohaDat(const wxString& directory);
@@ -41,6 +41,10 @@ namespace companyfiles {
 
 // The company key "name_IČ".
 wxString firmaKey(const wxString& nazev, const wxString& ic);
+// The file name of a company's backup copy: its key with ".db", the characters FAT, exFAT and
+// NTFS refuse (" * : < > ? \ / | and control characters) and trailing dots and spaces
+// replaced by "_". The company's name inside the copy stays as it is.
+wxString zalohaName(const wxString& key);
 // Splits a line of lxSettings::firmy() ("name, IČ: 123"): the name is the text before the
 // last ",", the IČ the text after the last blank.
 void parseFirmaLine(const wxString& line, wxString* nazev, wxString* ic);

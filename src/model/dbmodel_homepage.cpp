@@ -1,12 +1,16 @@
 // The HTML fragments of the home page: income and expense of the current year and the
 // unpaid invoices, receivables and liabilities.
 #include "dbmodel.h"
+#include "lxformat.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 #include "recordio.h"
 #include "sqllog.h"
 
 namespace {
+
+// "31 458,00 Kč": the Czech form whatever the system locale.
+wxString kc(double castka) { return lxformat::formatCastka(castka, wxString::FromUTF8("Kč")); }
 
 // Income or expense of a year by the journal column of each entry's pre-posting. The
 // column's own flag decides the direction, so the transit columns 31 and 32 count on the
@@ -28,8 +32,8 @@ wxString journalSummary(wxSQLite3Database& db, int rok, bool prijem, const char*
     } catch (const wxSQLite3Exception& e) {
         sqllog::error(sql, e);
     }
-    return wxString::FromUTF8(title) + wxString::Format(wxString::FromUTF8("Daňové: %.2f Kč<br>"), danove) +
-           wxString::Format(wxString::FromUTF8("Celkem: %.2f Kč<br>"), celkem) + "<br>";
+    return wxString::FromUTF8(title) + wxString::FromUTF8("Daňové: ") + kc(danove) + "<br>" +
+           wxString::FromUTF8("Celkem: ") + kc(celkem) + "<br><br>";
 }
 
 // The unpaid documents of a year among `table`'s rows that `direction` picks: how many,
@@ -67,7 +71,7 @@ wxString unpaidSummary(wxSQLite3Database& db, int rok, const char* table, const 
         sqllog::error(sql, e);
     }
     return wxString::FromUTF8(title) + wxString::Format(wxString::FromUTF8("Neuhrazené: %d<br>"), neuhrazene) +
-           wxString::Format(wxString::FromUTF8("Celkem: %.2f Kč<br>"), celkem) +
+           wxString::FromUTF8("Celkem: ") + kc(celkem) + "<br>" +
            wxString::Format("Po splatnosti: %d<br>", poSplatnosti) + "<br>";
 }
 

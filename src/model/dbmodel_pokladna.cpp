@@ -7,6 +7,7 @@
 #include <cmath>
 
 #include "dbmodel.h"
+#include "lxformat.h"
 #include "recordio.h"
 #include "sqllog.h"
 #include "sqlvalue.h"
@@ -81,8 +82,9 @@ const char* const ALL_BALANCES =
     "FROM banka b LEFT JOIN mena m ON b.menaid=m.id "
     "ORDER BY banka, zkratka COLLATE NOCASE, id";
 
-// "%.2f" of a balance; sums that differ from zero only by rounding show as 0.00, not -0.00.
-wxString formatStav(double stav) { return wxString::Format("%.2f", std::fabs(stav) < 0.005 ? 0.0 : stav); }
+// A balance in the Czech form, "1 250,50"; sums that differ from zero only by rounding show
+// as 0,00, not -0,00.
+wxString formatStav(double stav) { return lxformat::formatCastka(std::fabs(stav) < 0.005 ? 0.0 : stav); }
 
 // The bank codes in code order, each alone or followed by one space and the bank's name.
 wxArrayString bankCodes(wxSQLite3Database& db, bool onlyActive, bool withName) {

@@ -19,7 +19,6 @@ EVIDA_NAV(Obdobi, NAV_ALL)
 EVIDA_NAV(Pokladna, NAV_POKLADNA)
 EVIDA_NAV(Banka, NAV_BANKA)
 EVIDA_NAV(Predkontace, NAV_DENIK)
-EVIDA_NAV(Denik, NAV_DENIK)
 EVIDA_NAV(FaUhrada, NAV_NONE)
 EVIDA_NAV(Uhrada, NAV_ALL)
 EVIDA_NAV(Majetek, NAV_MAJETEK)
@@ -45,6 +44,11 @@ int navigationOf<Faktura>(DbModel&, const Faktura& f) {
 template <>
 int navigationOf<ZavPoh>(DbModel&, const ZavPoh& z) {
     return z.zavazek() ? NAV_ZAVAZKY : NAV_POHLEDAVKY;
+}
+// A journal entry that pays a document changes that document's page too (paid or unpaid).
+template <>
+int navigationOf<Denik>(DbModel& m, const Denik& d) {
+    return d.isValid() && m.isDenikUhrada(d.id()) ? NAV_ALL : NAV_DENIK;
 }
 // An item belongs to the page of its invoice or receivable/liability.
 template <>
@@ -110,8 +114,10 @@ bool deleteRow(wxSQLite3Database& db, const Key& key) {
     bool DbModel::delete##R(Key key) {                                               \
         if (isForeignStorage()) return false;                                        \
         const R record = get##R(key);                                                \
+        /* Asked before the row goes: its links (payments) go with it. */            \
+        const int navigation = navigationOf(*this, record);                          \
         if (!deleteRow<R>(m_db, key)) return false;                                  \
-        fireUpdated(navigationOf(*this, record));                                    \
+        fireUpdated(navigation);                                                     \
         return true;                                                                 \
     }
 

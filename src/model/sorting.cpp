@@ -5,11 +5,12 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "collation.h"
 #include "dbmodel.h"
 
 namespace {
 
-bool less(const wxString& a, const wxString& b) { return a.CmpNoCase(b) < 0; }
+bool less(const wxString& a, const wxString& b) { return collation::czechCompare(a, b) < 0; }
 // A missing date goes before every real one.
 bool less(const wxDateTime& a, const wxDateTime& b) {
     if (!a.IsValid() || !b.IsValid()) return !a.IsValid() && b.IsValid();

@@ -2,8 +2,9 @@
 // of two records and answers whether the first goes before the second:
 //   bool lxSort<Record>By<Key>Asc(const Record& a, const Record& b);
 //   bool lxSort<Record>By<Key>Dsc(const Record& a, const Record& b);
-// Texts compare without regard to case, dates by time, numbers and flags by value. Both
-// directions are strict orders, so a stable sort keeps the order of equal rows either way.
+// Texts compare in Czech order (Ch after H, Ř after R; case and accents decide only ties),
+// dates by time, numbers and flags by value. Both directions are strict orders, so a stable
+// sort keeps the order of equal rows either way.
 // The list below generates them all; add a (record, key, field) entry to get a new pair.
 #pragma once
 

@@ -97,6 +97,41 @@ TEST_F(BookTest, DeletingAJournalEntryAsksFirst) {
     EXPECT_EQ(page->footerText(), u8("Žádné záznamy"));
 }
 
+// Deleting the entry that paid an invoice makes the invoice unpaid: every page that shows
+// payments hears of it, not only the journal.
+TEST_F(BookTest, DeletingAPaymentRefreshesThePagesOfThePaidDocument) {
+    const int invoice = faktura(true, 300, "2024-07-01");
+    const int payment = denik("P002", 300, "2024-04-01", "Platba");
+    const int plain = denik("P001", 10, "2024-04-02", "Prodej");
+    ASSERT_TRUE(m_model->addUhrada(Uhrada(m_model->getLastId("uhrada"), 300, payment, invoice, -1, 2024)));
+    std::vector<int> notices;
+    m_frame->Bind(MODEL_UPDATED, [&notices](wxCommandEvent& e) {
+        notices.push_back(e.GetInt());
+        e.Skip();
+    });
+    m_book->createPages();
+    m_book->selectPage(NAV_FAKTURY_VYDANE);
+    EXPECT_EQ(m_book->page(NAV_FAKTURY_VYDANE)->list()->GetItemText(0, 8), "Uhrazeno");
+
+    m_book->selectPage(NAV_DENIK);
+    lxBookPage* journal = m_book->page(NAV_DENIK);
+    journal->list()->selectId(plain);
+    m_prompts.answerQuestion(true);
+    ASSERT_TRUE(journal->run(BOOK_DELETE));
+    EXPECT_EQ(notices, std::vector<int>{NAV_DENIK}) << "an entry that pays nothing concerns the journal only";
+    EXPECT_FALSE(m_book->page(NAV_FAKTURY_VYDANE)->isStale());
+
+    journal->list()->selectId(payment);
+    m_prompts.answerQuestion(true);
+    ASSERT_TRUE(journal->run(BOOK_DELETE));
+    EXPECT_EQ(notices, (std::vector<int>{NAV_DENIK, NAV_ALL}));
+    EXPECT_FALSE(m_model->hasDenik(payment));
+    for (int nav : {NAV_FAKTURY_VYDANE, NAV_FAKTURY_PRIJATE, NAV_POHLEDAVKY, NAV_ZAVAZKY})
+        EXPECT_TRUE(m_book->page(nav)->isStale()) << nav;
+    m_book->selectPage(NAV_FAKTURY_VYDANE);
+    EXPECT_EQ(m_book->page(NAV_FAKTURY_VYDANE)->list()->GetItemText(0, 8), "Neuhrazeno");
+}
+
 TEST_F(BookTest, InvoicePageShowsCounterpartyAndPaymentState) {
     const int alfa = kontakt("Alfa");
     faktura(true, 100, "2024-07-01", alfa);  // not due yet on 1 June
@@ -136,12 +171,14 @@ TEST_F(BookTest, HomePageShowsCompanyPeriodAndTheSixSummaries) {
     EXPECT_THAT(text, HasSubstr("2024"));
     for (const char* part : {"Příjmy:", "Výdaje:", "Vydané faktury:", "Přijaté faktury:", "Pohledávky:", "Závazky:"})
         EXPECT_THAT(text, HasSubstr(part));
-    EXPECT_THAT(text, HasSubstr("Daňové: 1000.00 Kč"));
-    EXPECT_THAT(text, HasSubstr("Celkem: 400.00 Kč"));
+    // Amounts in the Czech form whatever the system locale (the tests run under C).
+    EXPECT_THAT(text, HasSubstr("Daňové: 1 000,00 Kč"));  // the text view shows the no-break space as a space
+    EXPECT_THAT(text, HasSubstr("Celkem: 400,00 Kč"));
+    EXPECT_THAT(HomePage::html(m_model.get()).utf8_string(), HasSubstr("Celkem: 1\u00A0000,00 Kč<br>"));
     EXPECT_THAT(text, HasSubstr("Neuhrazené: 1"));
 
     // Every change refreshes the summaries.
     denik("P001", 500, "2024-03-03", "Prodej");
-    EXPECT_THAT(m_book->homePage()->ToText().utf8_string(), HasSubstr("Daňové: 1500.00 Kč"));
+    EXPECT_THAT(m_book->homePage()->ToText().utf8_string(), HasSubstr("Daňové: 1 500,00 Kč"));
     EXPECT_THAT(HomePage::html(nullptr).utf8_string(), HasSubstr("Není otevřena žádná firma"));
 }

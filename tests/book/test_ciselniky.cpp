@@ -102,7 +102,7 @@ TEST_F(Ciselniky, ListsShowBalancesAndRefuseToDeleteTheLastOrAUsedRow) {
     denik("P001", 250, "2024-03-01", "Prodej");
     PokladnyDialog pokladny(m_frame);
     EXPECT_EQ(texts(pokladny.list(), 0), wxArrayString(1, "POK1"));
-    EXPECT_EQ(texts(pokladny.list(), 2), wxArrayString(1, "250.00"));
+    EXPECT_EQ(texts(pokladny.list(), 2), wxArrayString(1, "250,00"));
 
     pokladny.selectId(1);
     m_prompts.answerQuestion(true);

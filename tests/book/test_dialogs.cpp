@@ -4,8 +4,12 @@
 #include <gmock/gmock.h>
 #include <wx/app.h>
 #include <wx/checkbox.h>
+#include <wx/dcclient.h>
+#include <wx/dcmemory.h>
 #include <wx/spinctrl.h>
+#include <wx/srchctrl.h>
 #include <wx/textctrl.h>
+#include <wx/utils.h>
 
 #include <functional>
 
@@ -61,11 +65,11 @@ TEST_F(Adresar, ContactNeedsANameAndIsStoredWithItsAddress) {
     EXPECT_EQ(m_model->tableRows("adresa"), adresy);
 
     child<wxTextCtrl>(&form, "nazev")->ChangeValue("O'Brien \"Alfa\"");
-    child<wxTextCtrl>(&form, "ic")->ChangeValue("12345678");
+    child<wxTextCtrl>(&form, "ic")->ChangeValue("45274649");
     ASSERT_TRUE(form.save());
     const Kontakt stored = m_model->getKontakt(form.kontaktId());
     EXPECT_EQ(stored.nazev(), "O'Brien \"Alfa\"");
-    EXPECT_EQ(stored.ic(), "12345678");
+    EXPECT_EQ(stored.ic(), "45274649");
     EXPECT_EQ(m_model->getAdresa(stored.adresaid()).misto(), "Brno");
 
     // Editing changes the same address.
@@ -123,6 +127,102 @@ TEST_F(Adresar, ChooserReturnsTheSelectedContact) {
     chooser.list()->selectId(beta);
     chooser.chooseKontakt();
     EXPECT_EQ(chooser.selectedKontaktId(), beta);
+}
+
+// A number that fails its check is asked about, not refused: the user may save it anyway.
+TEST_F(Adresar, DoubtfulIcDicOrEmailAsksBeforeSaving) {
+    KontaktDialog form(m_frame);
+    child<wxTextCtrl>(&form, "nazev")->ChangeValue(u8("Šťastný"));
+    child<wxTextCtrl>(&form, "ic")->ChangeValue("12345678");
+    child<wxTextCtrl>(&form, "dic")->ChangeValue("CZ12345678");
+    child<wxTextCtrl>(&form, "email")->ChangeValue("stastny.cz");
+    const int before = m_model->tableRows("kontakt");
+
+    m_prompts.answerQuestion(false);
+    EXPECT_FALSE(form.save());
+    ASSERT_EQ(m_prompts.shown().size(), 1u);
+    EXPECT_EQ(m_prompts.shown()[0].kind, "question");
+    EXPECT_EQ(m_prompts.shown()[0].caption, "Dotaz");
+    const wxString text = m_prompts.shown()[0].text;
+    EXPECT_TRUE(text.StartsWith(u8("IČ 12345678"))) << text;
+    EXPECT_FALSE(text.Contains(u8("DIČ"))) << "CZ and eight digits is a well-formed DIČ: " << text;
+    EXPECT_TRUE(text.Contains("E-mail stastny.cz")) << text;
+    EXPECT_TRUE(text.EndsWith(u8("Přesto uložit?"))) << text;
+    EXPECT_EQ(m_model->tableRows("kontakt"), before);
+
+    m_prompts.answerQuestion(true);
+    ASSERT_TRUE(form.save());
+    EXPECT_EQ(m_model->getKontakt(form.kontaktId()).ic(), "12345678");
+
+    // Right numbers, or none, ask nothing.
+    m_prompts.clear();
+    KontaktDialog good(m_frame);
+    child<wxTextCtrl>(&good, "nazev")->ChangeValue("Beta");
+    child<wxTextCtrl>(&good, "ic")->ChangeValue("27074358");
+    child<wxTextCtrl>(&good, "dic")->ChangeValue("CZ27074358");
+    child<wxTextCtrl>(&good, "email")->ChangeValue("beta@example.cz");
+    EXPECT_TRUE(good.save());
+    EXPECT_TRUE(m_prompts.shown().empty()) << m_prompts.transcript();
+}
+
+// Names in the order of a Czech phone book; the search field narrows the list by name, IČ or
+// town as the user types, whatever the case and accents.
+TEST_F(Adresar, ListIsInCzechOrderAndTheSearchFieldNarrowsIt) {
+    for (const auto& [nazev, misto] : std::vector<std::pair<const char*, const char*>>{
+             {"Řepa", "Plzeň"}, {"Chrudim s.r.o.", "Chrudim"}, {"Čapek", "Žďár nad Sázavou"},
+             {"Hradec", "Hradec Králové"}, {"Cyril", "Brno"}, {"Rum", "Ústí nad Labem"}})
+        kontakt(nazev, misto);
+    Kontakt withIc = m_model->getKontakt(kontakt("Dvořák", "Olomouc"));
+    withIc.setIc("45274649");
+    ASSERT_TRUE(m_model->editKontakt(withIc));
+
+    KontaktyDialog adresar(m_frame);
+    lxListCtrl* list = adresar.list();
+    ASSERT_NE(adresar.searchField(), nullptr);
+    EXPECT_THAT(names(list), ElementsAre("Cyril", u8("Čapek"), u8("Dvořák"), "Hradec", "Chrudim s.r.o.", "Rum",
+                                         u8("Řepa")));
+
+    const struct {
+        const char* typed;
+        std::vector<const char*> shown;
+    } cases[] = {
+        {"CHRUD", {"Chrudim s.r.o."}},                 // case
+        {"zdar", {"Čapek"}},                          // a town without its accents
+        {"cap", {"Čapek"}},                           // a name without its háček
+        {"4527", {"Dvořák"}},                         // the IČ
+        {"hradec", {"Hradec"}},                       // name and town of one contact
+        {"ne", {}},                                   // nothing of the kind
+        {"", {"Cyril", "Čapek", "Dvořák", "Hradec", "Chrudim s.r.o.", "Rum", "Řepa"}},
+    };
+    for (const auto& c : cases) {
+        adresar.searchField()->SetValue(u8(c.typed));  // sends its change like typing
+        std::vector<wxString> expected;
+        for (const char* n : c.shown) expected.push_back(u8(n));
+        EXPECT_EQ(names(list), expected) << c.typed;
+    }
+    adresar.searchField()->SetValue("cap");
+    ASSERT_EQ(list->GetItemCount(), 1);
+    EXPECT_EQ(m_model->getKontakt(list->selectedId()).nazev(), u8("Čapek")) << "a single match is selected";
+
+    if (wxGetEnv("EVIDA_SHOTS", nullptr)) {
+        wxString dir;
+        wxGetEnv("EVIDA_SHOTS", &dir);
+        adresar.searchField()->SetValue("");
+        adresar.Show();
+        adresar.Raise();
+        for (int i = 0; i < 20; ++i) {
+            wxYield();
+            wxMilliSleep(20);
+        }
+        const wxSize size = adresar.GetClientSize();
+        wxBitmap shot(size);
+        wxMemoryDC memory(shot);
+        wxClientDC screen(&adresar);
+        memory.Blit(0, 0, size.x, size.y, &screen, 0, 0);
+        memory.SelectObject(wxNullBitmap);
+        shot.SaveFile(dir + "/adresar.png", wxBITMAP_TYPE_PNG);
+        adresar.Hide();
+    }
 }
 
 struct BoundsCase {

@@ -65,7 +65,7 @@ TEST_F(ProgramPrints, OverviewShowsTheCompanyAndTheSummariesOfTheYear) {
     ASSERT_EQ(PrintTest::pdfPages(pdf), 1);
     const std::string all = text(pdf);
     for (const char* expected : {"Přehled firmy", "Šťastná & <Veselá> s.r.o.", "IČ: 27074358", "účetní období 2024",
-                                 "Příjmy:", "Daňové: 1000.00 Kč", "Výdaje:", "Celkem: 400.00 Kč",
+                                 "Příjmy:", "Daňové: 1 000,00 Kč", "Výdaje:", "Celkem: 400,00 Kč",
                                  "Vydané faktury:", "Neuhrazené: 1", "Přijaté faktury:", "Pohledávky:", "Závazky:"})
         EXPECT_THAT(all, HasSubstr(expected));
     EXPECT_THAT(all, Not(HasSubstr("<b>")));

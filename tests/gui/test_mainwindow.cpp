@@ -1,14 +1,20 @@
 // The main window: menus, navigation, status bar, model events, the application date, the
-// update check, the backup reminder and what the window stores when it closes.
+// update check, the backup reminder, where the window opens and what it stores when it closes.
 #include <wx/accel.h>
+#include <wx/dcclient.h>
+#include <wx/dcmemory.h>
+#include <wx/display.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
 #include <wx/menu.h>
+#include <wx/toolbar.h>
 #include <wx/treectrl.h>
 #include <wx/utils.h>
 
 #include "book/lxbook.h"
 #include "controls/lxdatectrl.h"
+#include "book/lxbookpage.h"
+#include "book/lxlistctrl.h"
 #include "dbmodel.h"
 #include "httpserver.h"
 #include "lxsettings.h"
@@ -159,7 +165,7 @@ TEST_F(MainWindow, ApplicationDateDialogSetsTheWorkingDate) {
     });
     command(evidaFrame::ID_DATUM);
     EXPECT_EQ(lxSettings::instance()->datum().FormatISODate(), "2025-01-15");
-    EXPECT_EQ(statusText(2), "Datum: " + isoDay("2025-01-15").Format("%x"));
+    EXPECT_EQ(statusText(2), "Datum: 15.01.2025") << "the Czech form whatever the system locale";
     m_dialogs.then(cancelDialog());
     command(evidaFrame::ID_DATUM);
     EXPECT_EQ(lxSettings::instance()->datum().FormatISODate(), "2025-01-15");
@@ -216,6 +222,82 @@ INSTANTIATE_TEST_SUITE_P(LastBackup, BackupReminder,
                                            ReminderCase{"fifteen_days_ago", "2025-06-05", true},
                                            ReminderCase{"months_ago", "2025-01-02", true}),
                          [](const auto& i) { return std::string(i.param.name); });
+
+// The first start opens a window that shows the whole toolbar and the journal's columns;
+// later starts open it where it was left.
+TEST_F(MainWindow, FirstStartFitsTheWorkAndIsCentredLaterStartsKeepTheirPlace) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    const wxRect area = wxDisplay(0u).GetClientArea();
+    const wxRect first = m_frame->GetRect();
+    EXPECT_EQ(first.width, area.width >= 1260 ? 1200 : area.width * 4 / 5);
+    EXPECT_EQ(first.height, area.height >= 840 ? 800 : area.height * 4 / 5);
+    EXPECT_NEAR(first.x + first.width / 2, area.x + area.width / 2, 2);
+    m_frame->SetSize(30, 40, 900, 650);
+    closeFrame();
+    lxSettings::reset();
+    lxSettings::instance()->load();
+    const wxRect again = evidaFrame::initialRect();
+    EXPECT_EQ(again, wxRect(30, 40, 900, 650));
+}
+
+// At the first-start size the journal page shows its whole toolbar and every column, the
+// entries in the order of days, and the status bar the Czech date.
+TEST_F(MainWindow, JournalFitsTheFirstStartWindow) {
+    addCompany("evida1.db", "Alfa", "27074358");
+    ASSERT_TRUE(start()->isLoaded());
+    DbModel* model = DbModel::instance();
+    const struct {
+        const char* datum;
+        const char* popis;
+        const char* predkontace;
+        double castka;
+        bool banka;
+    } entries[] = {{"2025-03-02", "Prodej zboží", "P001", 31458, false},
+                   {"2025-01-15", "Nájem kanceláře", "V008", 12500, true},
+                   {"2025-02-01", "Materiál", "V001", 1250.5, false},
+                   {"2025-01-15", "Tržba hotově", "P001", 980, false},
+                   {"2025-04-10", "Platba od odběratele", "P002", 60500, true}};
+    for (const auto& e : entries) {
+        const int id = model->getLastId("denik");
+        ASSERT_TRUE(model->addDenik(Denik(id, isoDay(e.datum), wxString::Format("D%03d", id), u8(e.popis), e.castka,
+                                          0, 1, "", 0, 1, model->getPredkontaceIdByZkratka(e.predkontace),
+                                          e.banka ? -1 : 1, e.banka ? 1 : -1, e.banka ? 3 : 0, 0, 2025)));
+    }
+    m_frame->book()->selectPage(NAV_DENIK);
+    for (int i = 0; i < 10; ++i) wxYield();
+    lxBookPage* page = m_frame->book()->page(NAV_DENIK);
+    lxListCtrl* list = page->list();
+    ASSERT_EQ(list->GetItemCount(), 5);
+    std::vector<wxString> dates;
+    for (long i = 0; i < list->GetItemCount(); ++i) dates.push_back(list->GetItemText(i, 0));
+    EXPECT_EQ(dates, (std::vector<wxString>{"15.01.2025", "15.01.2025", "01.02.2025", "02.03.2025", "10.04.2025"}));
+    EXPECT_EQ(list->GetItemText(3, 3), u8("31\u00A0458,00"));
+    EXPECT_EQ(statusText(2), "Datum: 20.06.2025");
+
+    int columns = 0;
+    for (int c = 0; c < list->GetColumnCount(); ++c) columns += list->GetColumnWidth(c);
+    EXPECT_LE(columns, list->GetClientSize().x) << "every column of the journal is in view";
+    auto* toolbar = dynamic_cast<wxToolBar*>(page->GetChildren().GetFirst()->GetData());
+    ASSERT_NE(toolbar, nullptr);
+    EXPECT_LE(toolbar->GetBestSize().x, page->GetClientSize().x) << "the whole toolbar is in view";
+
+    wxString shots;
+    if (wxGetEnv("EVIDA_SHOTS", &shots)) {
+        m_frame->Raise();
+        for (int i = 0; i < 30; ++i) {
+            wxYield();
+            wxMilliSleep(20);
+        }
+        const wxSize size = m_frame->GetClientSize();
+        wxBitmap shot(size);
+        wxMemoryDC memory(shot);
+        wxClientDC screen(m_frame);
+        memory.Blit(0, 0, size.x, size.y, &screen, 0, 0);
+        memory.SelectObject(wxNullBitmap);
+        shot.SaveFile(shots + "/journal.png", wxBITMAP_TYPE_PNG);
+    }
+}
 
 TEST_F(MainWindow, ForcedCloseSkipsTheReminderAndTheWindowStoresItsGeometryAndLayout) {
     addCompany("evida1.db", "Alfa", "1");

@@ -3,6 +3,8 @@
 #include "DenikTisk.h"
 #include "PrijemVydejDialog.h"
 #include "bookshapes.h"
+#include "denikexport.h"
+#include "lxcsv.h"
 #include "lxbookpage.h"
 #include "lxlistctrl.h"
 #include "prompts.h"
@@ -24,7 +26,8 @@ DbModel* openModel() {
 }
 
 // Deleting a journal entry needs no dialog. A payment's entry takes its payment rows with it
-// (the database cascades), and the paid document becomes unpaid again.
+// (the database cascades), and the paid document becomes unpaid again: the model then names
+// every page in its change notice, not the journal alone.
 void deleteDenik(lxBookPage* page, int id) {
     DbModel* model = openModel();
     if (!model) return;
@@ -72,6 +75,17 @@ void printDenik(lxBookPage* page) {
     std::vector<int> ids;
     for (size_t r = 0; r < page->rows().rowCount(); ++r) ids.push_back(page->rows().id(r));
     DenikTisk(page, page->navigation(), ids, page->list()->selectedId()).run();
+}
+
+// The journal's pages export whole entries in the shown order, in the form the journal
+// import reads back.
+bool exportDenik(lxBookPage* page, const wxString& path, lxcsv::Kodovani kodovani, wxString* error) {
+    std::vector<int> ids;
+    for (size_t r = 0; r < page->rows().rowCount(); ++r) ids.push_back(page->rows().id(r));
+    DbModel* model = openModel();
+    const std::vector<wxArrayString> rows = model ? denikexport::rows(*model, ids) : std::vector<wxArrayString>();
+    return lxcsv::write(
+        path, denikexport::header(), rows.size(), [&rows](size_t r) { return rows[r]; }, kodovani, error);
 }
 
 void deleteJizda(lxBookPage* page, int id) {
@@ -136,6 +150,9 @@ lxBookPage* create(wxWindow* parent, int nav) {
             created->setAction(BOOK_COPY, [created](int id) { editDenik(created, id, true); });
             created->setAction(BOOK_DELETE, [created](int id) { deleteDenik(created, id); });
             created->setPrintAction([created] { printDenik(created); });
+            created->setCsvExport([created](const wxString& path, lxcsv::Kodovani kodovani, wxString* error) {
+                return exportDenik(created, path, kodovani, error);
+            });
             break;
         case NAV_FAKTURY_VYDANE:
         case NAV_FAKTURY_PRIJATE:

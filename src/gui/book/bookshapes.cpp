@@ -1,9 +1,12 @@
 #include "bookshapes.h"
 
+#include <algorithm>
 #include <functional>
 #include <map>
 #include <memory>
 
+#include "collation.h"
+#include "lxformat.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 
@@ -43,12 +46,19 @@ lxColumn<Row> dateColumn(const char* caption, int width, Get get, bool withTime 
             [get](const Row& r) { return dateKey(std::invoke(get, r)); }};
 }
 
+// Money in the Czech form, "31 458,00" (thousands grouped by a no-break space), whatever the
+// system locale; `format` may give another form (stock quantities).
 template <class Row, class Get>
-lxColumn<Row> amountColumn(const char* caption, int width, Get get, const char* format = "%.2f") {
+lxColumn<Row> amountColumn(
+    const char* caption, int width, Get get,
+    wxString (*format)(double) = [](double v) { return lxformat::formatCastka(v); }) {
     return {{u8(caption), width, true},
-            [get, format](const Row& r) { return wxString::Format(format, static_cast<double>(std::invoke(get, r))); },
+            [get, format](const Row& r) { return format(static_cast<double>(std::invoke(get, r))); },
             [get](const Row& r) { return static_cast<double>(std::invoke(get, r)); }};
 }
+
+// "Příjmy: 1 250,50 Kč" for the footers.
+wxString kc(const char* label, double value) { return u8(label) + ": " + lxformat::formatCastka(value, u8("Kč")); }
 
 // Whole numbers; zero shows as an empty cell when it means "none" (a cash entry's statement).
 template <class Row, class Get>
@@ -129,7 +139,7 @@ void addDokladFilter(lxPageShape<Row>& shape) {
 
 wxString formatDatum(const wxDateTime& datum, bool withTime) {
     if (!datum.IsValid()) return wxString();
-    return datum.Format(withTime ? "%d.%m.%Y %H:%M" : "%d.%m.%Y");
+    return withTime ? lxformat::formatDatum(datum) + datum.Format(" %H:%M") : lxformat::formatDatum(datum);
 }
 
 lxPageShape<DenikView> denik(int nav) {
@@ -143,9 +153,22 @@ lxPageShape<DenikView> denik(int nav) {
                  flagColumn<DenikView>("Typ", 70, &DenikView::prijem, "Příjem", "Výdaj"),
                  textColumn<DenikView>(registr, 110, &DenikView::zkratka)};
     if (nav != NAV_POKLADNA) s.columns.push_back(intColumn<DenikView>("Výpis", 60, &DenikView::vypis, true));
-    s.source = fromModel(nav == NAV_POKLADNA ? &DbModel::denikviewPokladna
-                         : nav == NAV_BANKA  ? &DbModel::denikviewBanka
-                                             : &DbModel::denikview);
+    // The model gives bank entries before cash ones; the page reads in the order of days, and
+    // entries of one day by their numbers. Sorting by the date column keeps that tie order.
+    const auto list = nav == NAV_POKLADNA ? &DbModel::denikviewPokladna
+                      : nav == NAV_BANKA  ? &DbModel::denikviewBanka
+                                          : &DbModel::denikview;
+    s.source = [list]() {
+        auto rows = fromModel(list)();
+        std::stable_sort(rows.begin(), rows.end(), [](const auto& a, const auto& b) {
+            if (!a || !b) return a && !b;
+            const double da = dateKey(a->datum()), db = dateKey(b->datum());
+            if (da != db) return da < db;
+            return collation::czechCompare(a->cislo(), b->cislo()) < 0;
+        });
+        return rows;
+    };
+    s.sortColumn = 0;
     s.date = [](const DenikView& r) { return r.datum(); };
     s.choices = {{u8("Příjmy"), [](const DenikView& r) { return r.prijem(); }},
                  {u8("Výdaje"), [](const DenikView& r) { return !r.prijem(); }}};
@@ -166,19 +189,18 @@ lxPageShape<DenikView> denik(int nav) {
         for (const auto& d : model->denik()) (*predkontace)[d->id()] = d->predkontaceid();
         for (const auto& p : model->predkontace()) {
             const int id = p->id();
-            choices.push_back({u8("Předkontace ") + p->zkratka() + " " + p->popis(),
-                               [predkontace, id](const DenikView& r) {
-                                   const auto it = predkontace->find(r.id());
-                                   return it != predkontace->end() && it->second == id;
-                               }});
+            choices.push_back(
+                {u8("Předkontace ") + p->zkratka() + " " + p->popis(), [predkontace, id](const DenikView& r) {
+                     const auto it = predkontace->find(r.id());
+                     return it != predkontace->end() && it->second == id;
+                 }});
         }
         return choices;
     };
     s.footer = [](const std::vector<const DenikView*>& rows) {
         double prijmy = 0, vydaje = 0;
         for (const DenikView* r : rows) (r->prijem() ? prijmy : vydaje) += r->castka();
-        return wxString::Format(u8("Příjmy: %.2f Kč    Výdaje: %.2f Kč    Rozdíl: %.2f Kč    "), prijmy, vydaje,
-                                prijmy - vydaje) +
+        return kc("Příjmy", prijmy) + "    " + kc("Výdaje", vydaje) + "    " + kc("Rozdíl", prijmy - vydaje) + "    " +
                count("Záznamů: %d", rows.size());
     };
     return s;
@@ -231,9 +253,8 @@ lxPageShape<MajetekView> majetek() {
             cena += r->cena();
             odepsano += r->odepsano();
         }
-        return wxString::Format(u8("Vstupní cena: %.2f Kč    Odepsáno: %.2f Kč    Zůstatková cena: %.2f Kč    "), cena,
-                                odepsano, cena - odepsano) +
-               count("Položek: %d", rows.size());
+        return kc("Vstupní cena", cena) + "    " + kc("Odepsáno", odepsano) + "    " +
+               kc("Zůstatková cena", cena - odepsano) + "    " + count("Položek: %d", rows.size());
     };
     return s;
 }
@@ -246,7 +267,7 @@ lxPageShape<ZasobaView> zasoby() {
                  textColumn<ZasobaView>("Název", 240, &ZasobaView::nazev),
                  textColumn<ZasobaView>("Sklad", 140, &ZasobaView::sklad),
                  textColumn<ZasobaView>("MJ", 50, &ZasobaView::mj),
-                 amountColumn<ZasobaView>("Množství", 100, &ZasobaView::pocet, "%.3f"),
+                 amountColumn<ZasobaView>("Množství", 100, &ZasobaView::pocet, &lxformat::formatMnozstvi),
                  amountColumn<ZasobaView>("Cena za MJ", 100, cenaMj),
                  amountColumn<ZasobaView>("Hodnota", 110, &ZasobaView::celkem)};
     s.source = fromModel(&DbModel::zasobyview);
@@ -255,7 +276,7 @@ lxPageShape<ZasobaView> zasoby() {
     s.footer = [](const std::vector<const ZasobaView*>& rows) {
         double hodnota = 0;
         for (const ZasobaView* r : rows) hodnota += r->celkem();
-        return wxString::Format(u8("Hodnota zásob: %.2f Kč    "), hodnota) + count("Položek: %d", rows.size());
+        return kc("Hodnota zásob", hodnota) + "    " + count("Položek: %d", rows.size());
     };
     return s;
 }
@@ -292,6 +313,13 @@ lxPageShape<KontaktView> kontakty() {
                  textColumn<KontaktView>("E-mail", 180, &KontaktView::email),
                  textColumn<KontaktView>("Místo", 150, &KontaktView::misto)};
     s.source = fromModel(&DbModel::kontaktyview);
+    s.sortColumn = 0;  // by name, in Czech order
+    // The search field finds a contact by its name, IČ or town, whatever the case and accents.
+    s.search = [](const KontaktView& r, const wxString& folded) {
+        for (const wxString& text : {r.nazev(), r.ic(), r.misto()})
+            if (collation::searchFold(text).Find(folded) != wxNOT_FOUND) return true;
+        return false;
+    };
     s.footer = [](const std::vector<const KontaktView*>& rows) { return count("Kontaktů: %d", rows.size()); };
     return s;
 }

@@ -151,15 +151,24 @@ wxString lxBookPage::footerText() const {
 }
 
 void lxBookPage::exportCsv() {
-    wxString path = prompts().chooseFile(u8("Exportovat do CSV"), wxGetHomeDir(), m_rows->key() + ".csv",
-                                         u8("CSV soubory (*.csv)|*.csv"), true, this);
+    int typ = 0;
+    wxString path = prompts().chooseSaveFile(u8("Exportovat do CSV"), wxGetHomeDir(), m_rows->key() + ".csv",
+                                             u8("CSV v UTF-8 (*.csv)|*.csv|CSV ve Windows-1250 (*.csv)|*.csv"), &typ,
+                                             this);
     if (path.empty()) return;
     if (!path.Lower().EndsWith(".csv")) path += ".csv";
     wxString error;
-    if (!exportCsv(path, &error)) prompts().info(error, wxString(), this);
+    if (!exportCsv(path, &error, typ == 1 ? lxcsv::Kodovani::WINDOWS1250 : lxcsv::Kodovani::UTF8)) {
+        prompts().info(error, wxString(), this);
+        return;
+    }
+    prompts().info(wxString::Format(u8("Uloženo do %s"), path), u8("Informace"), this);
 }
 
-bool lxBookPage::exportCsv(const wxString& path, wxString* error) { return lxcsv::write(path, *m_rows, error); }
+bool lxBookPage::exportCsv(const wxString& path, wxString* error, lxcsv::Kodovani kodovani) {
+    if (m_csvExport) return m_csvExport(path, kodovani, error);
+    return lxcsv::write(path, *m_rows, kodovani, error);
+}
 
 Table lxBookPage::printTable() const {
     Table table;

@@ -10,6 +10,7 @@
 #include <functional>
 #include <memory>
 
+#include "lxcsv.h"
 #include "lxrowmodel.h"
 
 class lxListCtrl;
@@ -51,9 +52,14 @@ class lxBookPage : public wxPanel {
     void setFilter(const lxFilter& filter);
     wxString footerText() const;
 
-    // Asks for a file and writes the shown rows into it as CSV.
+    // Asks for a file and its encoding, writes the shown rows into it as CSV and tells where.
     void exportCsv();
-    bool exportCsv(const wxString& path, wxString* error = nullptr);
+    bool exportCsv(const wxString& path, wxString* error = nullptr,
+                   lxcsv::Kodovani kodovani = lxcsv::Kodovani::UTF8);
+    // Gives the page its own CSV form (the journal's full entries); without one the export
+    // holds the shown columns.
+    using CsvExport = std::function<bool(const wxString& path, lxcsv::Kodovani kodovani, wxString* error)>;
+    void setCsvExport(CsvExport handler) { m_csvExport = std::move(handler); }
     // The shown rows as a print table, and its preview.
     Table printTable() const;
     // "Tisk": the page's own print command when it has one, else the preview of the shown rows.
@@ -74,6 +80,7 @@ class lxBookPage : public wxPanel {
     std::unique_ptr<lxRowModel> m_rows;
     std::array<Action, BOOK_ACTIONS> m_actions;
     std::function<void()> m_printAction;
+    CsvExport m_csvExport;
     bool m_stale = true;
     wxToolBar* m_toolbar = nullptr;
     lxListCtrl* m_list = nullptr;

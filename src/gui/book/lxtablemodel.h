@@ -9,10 +9,12 @@
 #include <functional>
 #include <memory>
 #include <numeric>
+#include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
+#include "collation.h"
 #include "lxrowmodel.h"
 
 template <class Row>
@@ -20,7 +22,7 @@ struct lxColumn {
     lxColumnInfo info;
     std::function<wxString(const Row&)> text;
     // The sort key of number, date and flag columns. Text columns have none and sort by
-    // their text without regard to case.
+    // their text in Czech order (case and accents decide only between equal names).
     std::function<double(const Row&)> key;
 };
 
@@ -44,6 +46,12 @@ struct lxPageShape {
     std::function<std::vector<lxChoice<Row>>()> moreChoices;
     // The footer of a non-empty list over the shown rows; empty for a plain count.
     std::function<wxString(const std::vector<const Row*>&)> footer;
+    // How the filter's text matches a row, given the text folded by collation::searchFold;
+    // unset: contained in a text column without regard to case.
+    std::function<bool(const Row&, const wxString& folded)> search;
+    // The order the page opens in: a column (-1 keeps the source's order) and its direction.
+    int sortColumn = -1;
+    bool sortAscending = true;
 };
 
 template <class Row>
@@ -51,7 +59,11 @@ class lxTableModel : public lxRowModel {
  public:
     using Rows = typename lxPageShape<Row>::Rows;
 
-    explicit lxTableModel(lxPageShape<Row> shape) : m_shape(std::move(shape)), m_choices(m_shape.choices) {
+    explicit lxTableModel(lxPageShape<Row> shape)
+        : m_shape(std::move(shape)),
+          m_choices(m_shape.choices),
+          m_sortColumn(m_shape.sortColumn >= 0 && m_shape.sortColumn < columnCount() ? m_shape.sortColumn : -1),
+          m_ascending(m_shape.sortAscending) {
         rebuild();
     }
 
@@ -132,6 +144,7 @@ class lxTableModel : public lxRowModel {
             if (m_filter.doDne.IsValid() && day.IsLaterThan(m_filter.doDne.GetDateOnly())) return false;
         }
         if (needle.empty()) return true;
+        if (m_shape.search) return m_shape.search(row, needle);
         for (const auto& column : m_shape.columns) {
             if (!column.key && column.text(row).Lower().Find(needle) != wxNOT_FOUND) return true;
         }
@@ -140,7 +153,7 @@ class lxTableModel : public lxRowModel {
 
     // Filters the loaded rows, orders them and recomputes the footer.
     void rebuild() {
-        const wxString needle = m_filter.text.Lower();
+        const wxString needle = m_shape.search ? collation::searchFold(m_filter.text) : m_filter.text.Lower();
         m_visible.clear();
         m_visible.reserve(m_rows.size());
         for (const auto& row : m_rows) {
@@ -175,28 +188,27 @@ class lxTableModel : public lxRowModel {
         m_visible.swap(sorted);
     }
 
-    // Texts compare first by their beginnings, eight characters packed into two integers
-    // kept beside the row numbers, so most comparisons never touch the texts themselves.
+    // Texts sort by their Czech collation keys, made once per row. The keys compare first by
+    // their first sixteen bytes packed into two integers kept beside the row numbers, so most
+    // comparisons never touch the keys themselves. A key holds no zero byte, so the zeros that
+    // pad a short key sort it before every longer key with the same beginning.
     struct TextKey {
         std::uint64_t head[2];
         std::uint32_t row;
-        bool whole;  // the text has at most eight characters: the head is all of it
+        bool whole;  // the key has at most sixteen bytes: the head is all of it
     };
 
     void sortByText(std::vector<std::uint32_t>& order, const lxColumn<Row>& column) const {
-        std::vector<wxString> texts(m_visible.size());
+        std::vector<std::string> texts(m_visible.size());
         std::vector<TextKey> keys(m_visible.size());
         for (std::size_t i = 0; i < texts.size(); ++i) {
-            texts[i] = column.text(*m_visible[i]);
-            texts[i].MakeLower();
+            texts[i] = collation::czechSortKey(column.text(*m_visible[i]));
             TextKey& key = keys[i];
-            key = TextKey{{0, 0}, static_cast<std::uint32_t>(i), texts[i].length() <= 8};
-            std::size_t n = 0;
-            for (auto it = texts[i].begin(); it != texts[i].end() && n < 8; ++it, ++n) {
-                // Characters above 0xFFFF share the top value; their order is settled by the texts.
-                const std::uint64_t c = std::min<std::uint64_t>(static_cast<wxUniChar>(*it).GetValue(), 0xFFFF);
-                key.head[n / 4] |= c << (16 * (3 - n % 4));
-            }
+            key = TextKey{{0, 0}, static_cast<std::uint32_t>(i), texts[i].size() <= 16};
+            const std::size_t n = std::min<std::size_t>(texts[i].size(), 16);
+            for (std::size_t b = 0; b < n; ++b)
+                key.head[b / 8] |= static_cast<std::uint64_t>(static_cast<unsigned char>(texts[i][b]))
+                                   << (8 * (7 - b % 8));
         }
         const auto compare = [&texts](const TextKey& a, const TextKey& b) {
             if (a.head[0] != b.head[0]) return a.head[0] < b.head[0] ? -1 : 1;
