@@ -203,8 +203,8 @@ TEST_F(ImportCompany, EuroRegisterRowIsInEurosAtTheStoredRate) {
     m_model->closeDatabase();
     const CliResult stav = runCli("stav " + m_path);
     EXPECT_EQ(stav.status, 0);
-    EXPECT_THAT(stav.output, HasSubstr(std::string(u8("POKE (Eurová pokladna): -100.00 EUR").utf8_str())));
-    EXPECT_THAT(stav.output, HasSubstr(std::string(u8("BUE (Eurový účet): 12.34 EUR").utf8_str())));
+    EXPECT_THAT(stav.output, HasSubstr(std::string(u8("POKE (Eurová pokladna): -100,00 EUR").utf8_str())));
+    EXPECT_THAT(stav.output, HasSubstr(std::string(u8("BUE (Eurový účet): 12,34 EUR").utf8_str())));
 }
 
 struct CurrencyCase {

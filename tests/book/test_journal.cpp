@@ -177,7 +177,7 @@ TEST_F(Journal, CashBookPrintsTheRunningBalanceToPdf) {
     ASSERT_EQ(tisk.run(DenikTisk::KNIHA), pdf);
     const std::string all = text(pdf);
     for (const char* expected :
-         {"Pokladní kniha POK1 2024", "Prodej zboží", "Nákup materiálu", "1000.00", "700.00", "Konečný stav"})
+         {"Pokladní kniha POK1 2024", "Prodej zboží", "Nákup materiálu", "1 000,00", "700,00", "Konečný stav"})
         EXPECT_THAT(all, HasSubstr(expected));
     EXPECT_THAT(all, ::testing::Not(HasSubstr("Na účet")));  // the bank's entry is not in the cash book
 
@@ -185,7 +185,7 @@ TEST_F(Journal, CashBookPrintsTheRunningBalanceToPdf) {
     const wxString bankPdf = choosePdf("banka.pdf");
     ASSERT_EQ(banka.run(DenikTisk::KNIHA), bankPdf);
     EXPECT_THAT(text(bankPdf), HasSubstr("Na účet"));
-    EXPECT_THAT(text(bankPdf), HasSubstr("5000.00"));
+    EXPECT_THAT(text(bankPdf), HasSubstr("5 000,00"));
 }
 
 TEST_F(Journal, ReceiptOfTheSelectedEntryFitsItsRegister) {
@@ -196,12 +196,12 @@ TEST_F(Journal, ReceiptOfTheSelectedEntryFitsItsRegister) {
     ASSERT_EQ(DenikTisk(m_frame, NAV_DENIK, allIds(), hotove).run(DenikTisk::DOKLAD), cash);
     EXPECT_EQ(PrintTest::pdfPages(cash), 1);
     EXPECT_THAT(text(cash), HasSubstr(wxString::Format(u8("Výdajový pokladní doklad D%03d"), hotove).utf8_string()));
-    EXPECT_THAT(text(cash), HasSubstr("321.50 CZK"));
+    EXPECT_THAT(text(cash), HasSubstr("321,50 CZK"));
 
     const wxString bank = choosePdf("vypis.pdf");
     ASSERT_EQ(DenikTisk(m_frame, NAV_DENIK, allIds(), banka).run(DenikTisk::DOKLAD), bank);
     EXPECT_THAT(text(bank), HasSubstr("Bankovní doklad - příjem"));
-    EXPECT_THAT(text(bank), HasSubstr("800.00 CZK"));
+    EXPECT_THAT(text(bank), HasSubstr("800,00 CZK"));
 
     m_prompts.clear();
     EXPECT_TRUE(DenikTisk(m_frame, NAV_DENIK, allIds(), -1).run(DenikTisk::DOKLAD).empty());
