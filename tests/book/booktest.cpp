@@ -1,6 +1,7 @@
 #include "booktest.h"
 
 #include <wx/app.h>
+#include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
 
@@ -70,4 +71,23 @@ wxArrayString BookTest::column(const lxListCtrl* list, int column) {
     wxArrayString texts;
     for (long i = 0; i < list->GetItemCount(); ++i) texts.Add(list->GetItemText(i, column));
     return texts;
+}
+
+void typeText(wxWindow* dialog, const char* name, const wxString& text) {
+    auto* control = field<wxTextCtrl>(dialog, name);
+    if (!control) return;
+    control->SetFocus();
+    control->SelectAll();
+    if (text.empty())
+        control->Remove(0, control->GetLastPosition());  // Delete over the selection
+    else
+        control->WriteText(text);
+}
+
+void choose(wxChoice* choice, int index) {
+    choice->SetSelection(index);
+    wxCommandEvent event(wxEVT_CHOICE, choice->GetId());
+    event.SetEventObject(choice);
+    event.SetInt(index);
+    choice->GetEventHandler()->ProcessEvent(event);
 }

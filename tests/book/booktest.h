@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 #include <wx/frame.h>
+#include <wx/choice.h>
 
 #include <memory>
 
@@ -20,6 +21,19 @@ class lxListCtrl;
 inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
 #endif
 wxDateTime iso(const char* text);
+
+// The control called `name` inside `parent`; a failed expectation when there is none of that class.
+template <class Control>
+Control* field(wxWindow* parent, const char* name) {
+    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, parent));
+    EXPECT_NE(control, nullptr) << name;
+    return control;
+}
+// Types into a text field as a person does: the field gets the focus, its text is selected and
+// the typed text replaces it, sending the change events the dialog listens to.
+void typeText(wxWindow* dialog, const char* name, const wxString& text);
+// Picks an item of a choice as the user would: the choice tells the dialog.
+void choose(wxChoice* choice, int index);
 
 class BookTest : public ::testing::Test {
  protected:

@@ -16,13 +16,6 @@
 
 namespace {
 
-template <class Control>
-Control* field(wxWindow* parent, const char* name) {
-    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, parent));
-    EXPECT_NE(control, nullptr) << name;
-    return control;
-}
-
 void type(wxWindow* dialog, const char* name, const char* text) {
     field<wxTextCtrl>(dialog, name)->ChangeValue(u8(text));
 }

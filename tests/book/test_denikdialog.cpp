@@ -24,34 +24,6 @@
 
 namespace {
 
-template <class Control>
-Control* field(wxWindow* parent, const char* name) {
-    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, parent));
-    EXPECT_NE(control, nullptr) << name;
-    return control;
-}
-
-// Types into a field as the keyboard does: the field takes the focus, the old text is
-// selected and the typed text replaces it, sending the change the dialog listens to.
-void typeText(wxWindow* dialog, const char* name, const wxString& text) {
-    auto* control = field<wxTextCtrl>(dialog, name);
-    if (!control) return;
-    control->SetFocus();
-    control->SelectAll();
-    if (text.empty())
-        control->Remove(0, control->GetLastPosition());  // Delete over the selection
-    else
-        control->WriteText(text);
-}
-
-void choose(wxChoice* choice, int index) {
-    choice->SetSelection(index);
-    wxCommandEvent event(wxEVT_CHOICE, choice->GetId());
-    event.SetEventObject(choice);
-    event.SetInt(index);
-    choice->GetEventHandler()->ProcessEvent(event);
-}
-
 int menaIndex(wxChoice* mena, const char* kod) {
     for (unsigned i = 0; i < mena->GetCount(); ++i)
         if (mena->GetString(i).StartsWith(kod)) return static_cast<int>(i);

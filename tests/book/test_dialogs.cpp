@@ -29,13 +29,6 @@ using ::testing::ElementsAre;
 
 namespace {
 
-template <class Control>
-Control* child(wxWindow* parent, const char* name) {
-    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, parent));
-    EXPECT_NE(control, nullptr) << name;
-    return control;
-}
-
 // Types a number into a spinner as the user would: the control tells its parent.
 void spin(wxSpinCtrl* control, int value) {
     control->SetValue(value);
@@ -58,14 +51,14 @@ using Adresar = BookTest;
 TEST_F(Adresar, ContactNeedsANameAndIsStoredWithItsAddress) {
     const int adresy = m_model->tableRows("adresa");
     KontaktDialog form(m_frame);
-    child<wxTextCtrl>(&form, "nazev")->ChangeValue("   ");
-    child<wxTextCtrl>(&form, "misto")->ChangeValue("Brno");
+    field<wxTextCtrl>(&form, "nazev")->ChangeValue("   ");
+    field<wxTextCtrl>(&form, "misto")->ChangeValue("Brno");
     EXPECT_FALSE(form.save());
     EXPECT_EQ(m_prompts.transcript(), u8("Název nemůže být prázdný\n"));
     EXPECT_EQ(m_model->tableRows("adresa"), adresy);
 
-    child<wxTextCtrl>(&form, "nazev")->ChangeValue("O'Brien \"Alfa\"");
-    child<wxTextCtrl>(&form, "ic")->ChangeValue("45274649");
+    field<wxTextCtrl>(&form, "nazev")->ChangeValue("O'Brien \"Alfa\"");
+    field<wxTextCtrl>(&form, "ic")->ChangeValue("45274649");
     ASSERT_TRUE(form.save());
     const Kontakt stored = m_model->getKontakt(form.kontaktId());
     EXPECT_EQ(stored.nazev(), "O'Brien \"Alfa\"");
@@ -74,8 +67,8 @@ TEST_F(Adresar, ContactNeedsANameAndIsStoredWithItsAddress) {
 
     // Editing changes the same address.
     KontaktDialog edit(m_frame, stored.id());
-    EXPECT_EQ(child<wxTextCtrl>(&edit, "misto")->GetValue(), "Brno");
-    child<wxTextCtrl>(&edit, "misto")->ChangeValue("Praha");
+    EXPECT_EQ(field<wxTextCtrl>(&edit, "misto")->GetValue(), "Brno");
+    field<wxTextCtrl>(&edit, "misto")->ChangeValue("Praha");
     ASSERT_TRUE(edit.save());
     EXPECT_EQ(m_model->getAdresa(stored.adresaid()).misto(), "Praha");
     EXPECT_EQ(m_model->tableRows("adresa"), adresy + 1);
@@ -132,10 +125,10 @@ TEST_F(Adresar, ChooserReturnsTheSelectedContact) {
 // A number that fails its check is asked about, not refused: the user may save it anyway.
 TEST_F(Adresar, DoubtfulIcDicOrEmailAsksBeforeSaving) {
     KontaktDialog form(m_frame);
-    child<wxTextCtrl>(&form, "nazev")->ChangeValue(u8("Šťastný"));
-    child<wxTextCtrl>(&form, "ic")->ChangeValue("12345678");
-    child<wxTextCtrl>(&form, "dic")->ChangeValue("CZ12345678");
-    child<wxTextCtrl>(&form, "email")->ChangeValue("stastny.cz");
+    field<wxTextCtrl>(&form, "nazev")->ChangeValue(u8("Šťastný"));
+    field<wxTextCtrl>(&form, "ic")->ChangeValue("12345678");
+    field<wxTextCtrl>(&form, "dic")->ChangeValue("CZ12345678");
+    field<wxTextCtrl>(&form, "email")->ChangeValue("stastny.cz");
     const int before = m_model->tableRows("kontakt");
 
     m_prompts.answerQuestion(false);
@@ -157,10 +150,10 @@ TEST_F(Adresar, DoubtfulIcDicOrEmailAsksBeforeSaving) {
     // Right numbers, or none, ask nothing.
     m_prompts.clear();
     KontaktDialog good(m_frame);
-    child<wxTextCtrl>(&good, "nazev")->ChangeValue("Beta");
-    child<wxTextCtrl>(&good, "ic")->ChangeValue("27074358");
-    child<wxTextCtrl>(&good, "dic")->ChangeValue("CZ27074358");
-    child<wxTextCtrl>(&good, "email")->ChangeValue("beta@example.cz");
+    field<wxTextCtrl>(&good, "nazev")->ChangeValue("Beta");
+    field<wxTextCtrl>(&good, "ic")->ChangeValue("27074358");
+    field<wxTextCtrl>(&good, "dic")->ChangeValue("CZ27074358");
+    field<wxTextCtrl>(&good, "email")->ChangeValue("beta@example.cz");
     EXPECT_TRUE(good.save());
     EXPECT_TRUE(m_prompts.shown().empty()) << m_prompts.transcript();
 }
@@ -241,9 +234,9 @@ TEST_P(RadaBounds, WidthFollowsPrefixAndNumber) {
     EXPECT_EQ(RadaDialog::minZnaku(u8(c.prefix), c.cislo), c.min);
 
     RadaDialog dialog(m_frame, m_model->getRada("PP"));
-    auto* znaku = child<wxSpinCtrl>(&dialog, "znaku");
-    spin(child<wxSpinCtrl>(&dialog, "cislo"), c.cislo);
-    child<wxTextCtrl>(&dialog, "prefix")->SetValue(u8(c.prefix));  // sends its change like typing
+    auto* znaku = field<wxSpinCtrl>(&dialog, "znaku");
+    spin(field<wxSpinCtrl>(&dialog, "cislo"), c.cislo);
+    field<wxTextCtrl>(&dialog, "prefix")->SetValue(u8(c.prefix));  // sends its change like typing
     EXPECT_EQ(znaku->GetMin(), c.min);
     EXPECT_EQ(znaku->GetMax(), 100);
     EXPECT_EQ(znaku->GetValue(), std::max(6, c.min));
@@ -259,11 +252,11 @@ INSTANTIATE_TEST_SUITE_P(Rada, RadaBounds,
 TEST_F(BookTest, RadaDialogKeepsAStoredWidthUntilAChangeAndWritesTheSeries) {
     // ZFV's default width 6 is below the rule's 7; only editing brings it up.
     RadaDialog dialog(m_frame, m_model->getRada("ZFV"));
-    auto* znaku = child<wxSpinCtrl>(&dialog, "znaku");
+    auto* znaku = field<wxSpinCtrl>(&dialog, "znaku");
     EXPECT_EQ(znaku->GetValue(), 6);
-    spin(child<wxSpinCtrl>(&dialog, "cislo"), 12);
+    spin(field<wxSpinCtrl>(&dialog, "cislo"), 12);
     EXPECT_EQ(znaku->GetValue(), 7);
-    child<wxTextCtrl>(&dialog, "popis")->SetValue(u8("Zálohy"));
+    field<wxTextCtrl>(&dialog, "popis")->SetValue(u8("Zálohy"));
     ASSERT_TRUE(dialog.save());
     const Rada stored = m_model->getRada("ZFV");
     EXPECT_EQ(stored.popis(), u8("Zálohy"));
@@ -280,7 +273,7 @@ TEST_F(BookTest, PreferencesListSeriesAndStoreDueDaysOfTheYear) {
     EXPECT_EQ(rady->GetItemText(0, 3), "1");
 
     for (int days : {30, 21}) {  // the first stores the year's row, the second edits it
-        child<wxSpinCtrl>(&preferences, "splatnost")->SetValue(days);
+        field<wxSpinCtrl>(&preferences, "splatnost")->SetValue(days);
         ASSERT_TRUE(preferences.save());
         EXPECT_EQ(m_model->getSplatnost(2024), days);
         EXPECT_EQ(lxSettings::instance()->splatnost(), days);
@@ -291,16 +284,6 @@ TEST_F(BookTest, PreferencesListSeriesAndStoreDueDaysOfTheYear) {
 // ---------------------------------------------------------------- typed dates
 
 namespace {
-
-void typeInto(wxWindow* dialog, const char* name, const wxString& text) {
-    auto* control = child<wxTextCtrl>(dialog, name);
-    control->SetFocus();
-    control->SelectAll();
-    if (text.empty())
-        control->Remove(0, control->GetLastPosition());  // Delete over the selection
-    else
-        control->WriteText(text);
-}
 
 void check(wxCheckBox* box, bool value) {
     box->SetValue(value);
@@ -337,8 +320,8 @@ TEST_F(TypedDates, WorkingDateIsTypedInItsYearOrRefused) {
                           Case{"29.2.2025", ""}, Case{"", ""}}) {
         m_prompts.clear();
         DatumDialog dialog(m_frame, iso("2024-06-01"));
-        EXPECT_EQ(child<wxTextCtrl>(&dialog, "datumText")->GetValue(), "01.06.2024");
-        const int result = runAndOk(dialog, [&](wxDialog* d) { typeInto(d, "datumText", u8(c.typed)); });
+        EXPECT_EQ(field<wxTextCtrl>(&dialog, "datumText")->GetValue(), "01.06.2024");
+        const int result = runAndOk(dialog, [&](wxDialog* d) { typeText(d, "datumText", u8(c.typed)); });
         if (*c.datum) {
             EXPECT_EQ(result, wxID_OK) << c.typed;
             EXPECT_EQ(dialog.datum().FormatISODate(), c.datum);
@@ -353,12 +336,12 @@ TEST_F(TypedDates, WorkingDateIsTypedInItsYearOrRefused) {
 TEST_F(TypedDates, FilterRangeIsTypedAndUnreadableDatesAreNamed) {
     lxFilterDialog dialog(m_frame, "Filtr", lxFilter(), /*hasDate=*/true, wxArrayString());
     // Unused fields offer the accounting year.
-    EXPECT_EQ(child<wxTextCtrl>(&dialog, "odText")->GetValue(), "01.01.2024");
-    EXPECT_EQ(child<wxTextCtrl>(&dialog, "doText")->GetValue(), "31.12.2024");
-    EXPECT_FALSE(child<wxTextCtrl>(&dialog, "odText")->IsEnabled());
-    check(child<wxCheckBox>(&dialog, "useOd"), true);
-    check(child<wxCheckBox>(&dialog, "useDo"), true);
-    EXPECT_TRUE(child<wxTextCtrl>(&dialog, "odText")->IsEnabled());
+    EXPECT_EQ(field<wxTextCtrl>(&dialog, "odText")->GetValue(), "01.01.2024");
+    EXPECT_EQ(field<wxTextCtrl>(&dialog, "doText")->GetValue(), "31.12.2024");
+    EXPECT_FALSE(field<wxTextCtrl>(&dialog, "odText")->IsEnabled());
+    check(field<wxCheckBox>(&dialog, "useOd"), true);
+    check(field<wxCheckBox>(&dialog, "useDo"), true);
+    EXPECT_TRUE(field<wxTextCtrl>(&dialog, "odText")->IsEnabled());
     struct Case {
         const char* od;
         const char* doDne;
@@ -371,12 +354,12 @@ TEST_F(TypedDates, FilterRangeIsTypedAndUnreadableDatesAreNamed) {
         {"1.4.", "31.3.", "Datum od nemůže být pozdější než datum do"},
     };
     for (const Case& c : cases) {
-        typeInto(&dialog, "odText", u8(c.od));
-        typeInto(&dialog, "doText", u8(c.doDne));
+        typeText(&dialog, "odText", u8(c.od));
+        typeText(&dialog, "doText", u8(c.doDne));
         EXPECT_EQ(dialog.validate(), u8(c.message)) << c.od << " " << c.doDne;
     }
-    typeInto(&dialog, "odText", "1.3.");
-    typeInto(&dialog, "doText", "31.3.2024");
+    typeText(&dialog, "odText", "1.3.");
+    typeText(&dialog, "doText", "31.3.2024");
     const lxFilter f = dialog.filter();
     EXPECT_EQ(f.od.FormatISODate(), "2024-03-01");
     EXPECT_EQ(f.doDne.FormatISODate(), "2024-03-31");

@@ -20,24 +20,8 @@ using ::testing::HasSubstr;
 
 namespace {
 
-template <class Control>
-Control* field(wxWindow* parent, const char* name) {
-    auto* control = dynamic_cast<Control*>(wxWindow::FindWindowByName(name, parent));
-    EXPECT_NE(control, nullptr) << name;
-    return control;
-}
-
 void type(wxWindow* dialog, const char* name, const char* text) {
     field<wxTextCtrl>(dialog, name)->ChangeValue(u8(text));
-}
-
-// Picks an item as the user would: the choice tells the dialog.
-void choose(wxChoice* choice, int index) {
-    choice->SetSelection(index);
-    wxCommandEvent event(wxEVT_CHOICE, choice->GetId());
-    event.SetEventObject(choice);
-    event.SetInt(index);
-    choice->GetEventHandler()->ProcessEvent(event);
 }
 
 std::string text(const wxString& pdf) { return PrintTest::pdfText(pdf).utf8_string(); }
