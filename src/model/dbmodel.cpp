@@ -66,6 +66,7 @@ void DbModel::fail(const wxString& message) {
     m_openError = message;
 }
 
+
 bool DbModel::openFile(const wxString& path, bool create) {
     closeDatabase();
     m_openError.clear();
@@ -239,6 +240,8 @@ void DbModel::createTables() {
 }
 
 void DbModel::closeDatabase() {
+    // A message belongs to the open that failed; the next one starts without it.
+    m_openError.clear();
     if (!m_db.IsOpen()) return;
     try {
         m_db.ExecuteUpdate("PRAGMA locking_mode = NORMAL;");

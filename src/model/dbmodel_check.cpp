@@ -176,12 +176,19 @@ bool DbModel::runChecks() {
 void DbModel::ensureSafetyCopy() {
     if (!m_safetyCopy.empty()) return;
     const wxString target = dbsafety::copyPath(m_path, wxDateTime::Now());
+    // Written under a temporary name first: a copy cut short (a crash, a full disk) never
+    // carries the name of a whole one.
+    const wxString partial = target + ".part";
     try {
         // SQLite's online backup reads through this connection, so the copy is consistent.
-        m_db.Backup(target);
+        m_db.Backup(partial);
     } catch (const wxSQLite3Exception& e) {
         sqllog::error("backup " + target, e);
-        if (wxFileName::FileExists(target)) wxRemoveFile(target);
+        if (wxFileName::FileExists(partial)) wxRemoveFile(partial);
+        throw SafetyCopyFailed();
+    }
+    if (!wxRenameFile(partial, target, false)) {
+        wxRemoveFile(partial);
         throw SafetyCopyFailed();
     }
     m_safetyCopy = target;
