@@ -131,7 +131,7 @@ BENCHMARK(BM_CreateCompany)->Unit(benchmark::kMillisecond);
 
 int main(int argc, char** argv) {
     wxInitializer init;
-    wxTheApp->SetAppName("evida");
+    wxAppConsole::GetInstance()->SetAppName("evida");
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();
     benchmark::Shutdown();

@@ -48,13 +48,6 @@ class MessagePrinter : public wxEvtHandler {
     int printed = 0;
 };
 
-// The console application evida-cli runs as: it gives the process its name (and so the data
-// directory "~/.evida") without pretending to be a GUI application.
-class CliApp : public wxAppConsole {
-   public:
-    int OnRun() override { return 0; }
-};
-
 // The technical log lines reach the user only when asked for.
 class QuietLog : public wxLog {
    protected:
@@ -173,10 +166,11 @@ int stav(DbModel& model) {
 } // namespace
 
 int main(int argc, char** argv) {
-    wxApp::SetInstance(new CliApp());
     wxInitializer init(argc, argv);
     if (!init.IsOk()) return 1;
-    wxTheApp->SetAppName("evida");
+    // The name gives the data directory "~/.evida". The application object of a console
+    // program is no wxApp (wxTheApp would be a wrong cast), so it is reached as what it is.
+    wxAppConsole::GetInstance()->SetAppName("evida");
     wxLog::DisableTimestamp();
 
     std::vector<wxString> args;
