@@ -81,6 +81,8 @@ bool DbModel::openFile(const wxString& path, bool create) {
         // A company open in another program stays locked for as long as it is open there, so
         // waiting for the lock is pointless: fail at once instead of after wxSQLite3's minute.
         m_db.SetBusyTimeout(200);
+        // Sorting and the checks' temporary tables stay in memory instead of temporary files.
+        m_db.ExecuteUpdate("PRAGMA temp_store = MEMORY;");
         // The exclusive lock taken by this empty transaction stays until the file is closed,
         // so a second program cannot use the company while it is open here.
         m_db.ExecuteUpdate("PRAGMA locking_mode = EXCLUSIVE;");
