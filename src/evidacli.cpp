@@ -12,6 +12,9 @@
 //                           number, description, amount, register or account code, pre-posting
 //                           code, counterparty): all rows or, when one is bad, none
 //   evida-cli stav FILE     the balance of every cash register and bank account
+//
+// Messages are Czech; the technical details of a failure (SQLite's and wxWidgets' own English
+// lines) go to the standard error only with --verbose, which may stand anywhere.
 #include <wx/app.h>
 #include <wx/event.h>
 #include <wx/filename.h>
@@ -19,16 +22,16 @@
 #include <wx/log.h>
 
 #include <cstdio>
+#include <vector>
 
 #include "companysetup.h"
 #include "dbmodel.h"
 #include "denikimport.h"
 #include "download.h"
+#include "lxsettings.h"
 #include "schema.h"
 
 namespace {
-
-const char* const OPEN_FAILED = "Nepodařilo se otevřít databázi";
 
 void print(const wxString& text) { std::printf("%s\n", static_cast<const char*>(text.utf8_str())); }
 void printErr(const wxString& text) { std::fprintf(stderr, "%s\n", static_cast<const char*>(text.utf8_str())); }
@@ -36,23 +39,41 @@ void printErr(const wxString& text) { std::fprintf(stderr, "%s\n", static_cast<c
 // Receives the model's messages (the repair report) and prints them.
 class MessagePrinter : public wxEvtHandler {
    public:
-    MessagePrinter() { Bind(MODEL_MSG, [](wxCommandEvent& e) { print(e.GetString()); }); }
+    MessagePrinter() {
+        Bind(MODEL_MSG, [this](wxCommandEvent& e) {
+            print(e.GetString());
+            ++printed;
+        });
+    }
+    int printed = 0;
+};
+
+// The technical log lines reach the user only when asked for.
+class QuietLog : public wxLog {
+   protected:
+    void DoLogTextAtLevel(wxLogLevel, const wxString&) override {}
 };
 
 int usage() {
-    printErr(wxString::FromUTF8("Použití: evida-cli create|check|info|stav SOUBOR\n"
-                                "         evida-cli rates SOUBOR DATUM   (DATUM jako RRRR-MM-DD)\n"
-                                "         evida-cli import SOUBOR CSV    (peněžní deník z CSV)"));
+    printErr(wxString::FromUTF8("Použití: evida-cli [--verbose] PŘÍKAZ SOUBOR ...\n"
+                                "  create SOUBOR          nová databáze firmy\n"
+                                "  check SOUBOR           kontrola celistvosti, oprava a zpráva o opravě\n"
+                                "  info SOUBOR            verze a počty řádků tabulek\n"
+                                "  rates SOUBOR DATUM     kurzy ČNB ke dni (DATUM jako RRRR-MM-DD)\n"
+                                "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
+                                "  stav SOUBOR            stav pokladen a bankovních účtů\n"
+                                "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
 }
 
 int create(DbModel& model, const wxString& path) {
-    if (wxFileName::FileExists(path)) {
+    if (wxFileName::Exists(path, wxFILE_EXISTS_ANY | wxFILE_EXISTS_NO_FOLLOW) &&
+        !wxFileName::Exists(path, wxFILE_EXISTS_SYMLINK | wxFILE_EXISTS_NO_FOLLOW)) {
         printErr(wxString::FromUTF8("Soubor už existuje: ") + path);
         return 1;
     }
     if (!companysetup::createPlaceholderCompany(model, path)) {
-        printErr(wxString::FromUTF8(OPEN_FAILED));
+        printErr(model.openError());
         return 1;
     }
     const Firma& f = model.firma();
@@ -61,13 +82,27 @@ int create(DbModel& model, const wxString& path) {
     return 0;
 }
 
-bool open(DbModel& model, const wxString& path) {
-    if (!wxFileName::FileExists(path) || !model.openDatabase(path)) {
-        printErr(wxString::FromUTF8(OPEN_FAILED));
+bool open(DbModel& model, const wxString& path, DbModel::IntegrityCheck check = DbModel::IntegrityCheck::QUICK) {
+    if (!model.openDatabase(path, check)) {
+        printErr(model.openError());
         return false;
     }
     model.fillData();
     return true;
+}
+
+// The whole file examined (not only the quick test of every open), repaired where the
+// checks repair, and the company row present.
+int check(DbModel& model, const MessagePrinter& printer, const wxString& path) {
+    if (!open(model, path, DbModel::IntegrityCheck::FULL)) return 1;
+    if (model.tableRows("firma") != 1) {
+        printErr(wxString::Format(wxString::FromUTF8("V souboru chybí údaje o firmě (tabulka firma má %d řádků):\n%s"),
+                                  model.tableRows("firma"), path));
+        return 1;
+    }
+    // After a repair its report has said what happened.
+    if (printer.printed == 0) print(wxString::FromUTF8("Databáze je v pořádku."));
+    return 0;
 }
 
 int info(DbModel& model) {
@@ -100,8 +135,6 @@ int rates(DbModel& model, const wxString& path, const wxString& dateText) {
         return 2;
     }
     if (!open(model, path)) return 1;
-    // Tell why a download failed (the program's dialogs keep these details quiet).
-    wxLog::SetVerbose(true);
     int stored = 0;
     if (!lxutils::kurzyDownload(date, &stored)) {
         printErr(wxString::FromUTF8("Kurzy ke dni ") + dateText + wxString::FromUTF8(" se nepodařilo stáhnout"));
@@ -135,22 +168,42 @@ int stav(DbModel& model) {
 int main(int argc, char** argv) {
     wxInitializer init(argc, argv);
     if (!init.IsOk()) return 1;
-    wxTheApp->SetAppName("evida");
-    wxLog::SetActiveTarget(new wxLogStderr());
+    // The name gives the data directory "~/.evida". The application object of a console
+    // program is no wxApp (wxTheApp would be a wrong cast), so it is reached as what it is.
+    wxAppConsole::GetInstance()->SetAppName("evida");
     wxLog::DisableTimestamp();
-    if (argc < 3) return usage();
-    const wxString command = wxString::FromUTF8(argv[1]);
-    if (argc != (command == "rates" || command == "import" ? 4 : 3)) return usage();
-    const wxString path = wxFileName(wxString::FromUTF8(argv[2])).GetAbsolutePath();
+
+    std::vector<wxString> args;
+    bool verbose = false;
+    for (int i = 1; i < argc; ++i) {
+        const wxString arg = wxString::FromUTF8(argv[i]);
+        if (arg == "--verbose")
+            verbose = true;
+        else
+            args.push_back(arg);
+    }
+    if (verbose) {
+        wxLog::SetActiveTarget(new wxLogStderr());
+        wxLog::SetVerbose(true);
+    } else {
+        delete wxLog::SetActiveTarget(new QuietLog());
+    }
+    // Where the backups are, for the message about a damaged file.
+    lxSettings::instance()->load();
+
+    if (args.size() < 2) return usage();
+    const wxString& command = args[0];
+    if (args.size() != (command == "rates" || command == "import" ? 3u : 2u)) return usage();
+    const wxString path = wxFileName(args[1]).GetAbsolutePath();
 
     MessagePrinter printer;
     DbModel model(&printer);
     model.initModel();
     if (command == "create") return create(model, path);
-    if (command == "check") return open(model, path) ? 0 : 1;
+    if (command == "check") return check(model, printer, path);
     if (command == "info") return open(model, path) ? info(model) : 1;
-    if (command == "rates") return rates(model, path, wxString::FromUTF8(argv[3]));
-    if (command == "import") return importCsv(model, path, wxFileName(wxString::FromUTF8(argv[3])).GetAbsolutePath());
+    if (command == "rates") return rates(model, path, args[2]);
+    if (command == "import") return importCsv(model, path, wxFileName(args[2]).GetAbsolutePath());
     if (command == "stav") return open(model, path) ? stav(model) : 1;
     return usage();
 }

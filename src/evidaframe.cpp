@@ -173,7 +173,7 @@ bool evidaFrame::loadDatabase() {
     if (wxFileName::FileExists(path)) {
         if (!m_model->openDatabase()) {
             closeSplash();
-            prompts().error(u8("Nepodařilo se otevřít databázi"), u8(INFORMACE), this);
+            prompts().error(m_model->openError(), u8(INFORMACE), this);
             return false;
         }
         m_model->fillData();

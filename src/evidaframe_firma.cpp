@@ -84,7 +84,7 @@ void evidaFrame::zmenitFirmu(bool zMenu) {
         return;
     }
     closeSplash();
-    prompts().error(u8("Nepodařilo se otevřít databázi"), u8(INFORMACE), this);
+    prompts().error(m_model->openError(), u8(INFORMACE), this);
     // Back to the company open before, if it is still there.
     settings->setDbname(previous);
     if (openCurrent()) {
@@ -205,7 +205,7 @@ void evidaFrame::onObnovit(wxCommandEvent&) {
     m_model->closeDatabase();
     const bool copied = companyfiles::replaceDatabase(path, lxutils::dataDir() + "/" + settings->dbname());
     if (!m_model->openDatabase()) {
-        prompts().error(u8("Nepodařilo se otevřít databázi"), u8(INFORMACE), this);
+        prompts().error(m_model->openError(), u8(INFORMACE), this);
         return;
     }
     m_model->fillData();

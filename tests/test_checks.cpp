@@ -1,6 +1,11 @@
-// Damaged files are repaired when opened: code lists are replaced, user data keep every row.
+// Damaged files are repaired when opened: code lists are replaced, user data keep every row,
+// and no document moves to another register, account, classification or currency (except a
+// currency that does not exist, which becomes CZK): a missing row comes back as OBNOVENO-<id>.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <wx/filename.h>
+
+#include <cmath>
 
 #include "testcompany.h"
 
@@ -39,10 +44,29 @@ class Checks : public TestCompany {
                                 create, columns, columns, table, table, table);
     }
 
+    // The report of the last open as UTF-8, for matchers.
+    std::string reportText() const {
+        return m_events.messages.empty() ? std::string() : std::string(m_events.messages.front().utf8_str());
+    }
+
+    // A repair of user rows left a whole copy of the file as it was before, named in the report.
+    void expectCopyBefore(const wxString& sqlOnCopy, int expected) {
+        const wxString copy = m_model->safetyCopy();
+        ASSERT_FALSE(copy.empty());
+        EXPECT_THAT(std::string(copy.utf8_str()), ::testing::MatchesRegex(".*/firma\\.pred-upravou-[0-9]{8}-[0-9]{6}\\.db"));
+        EXPECT_THAT(reportText(), HasSubstr(std::string(copy.utf8_str())));
+        wxSQLite3Database db;
+        db.Open(copy, wxEmptyString, WXSQLITE_OPEN_READONLY);
+        EXPECT_EQ(db.ExecuteScalar(sqlOnCopy), expected) << sqlOnCopy;
+    }
+
     wxString m_path;
 };
 
-TEST_F(Checks, SoundFileGivesNoReport) { EXPECT_EQ(reopenAfter(""), ""); }
+TEST_F(Checks, SoundFileGivesNoReport) {
+    EXPECT_EQ(reopenAfter(""), "");
+    EXPECT_EQ(m_model->safetyCopy(), "");
+}
 
 struct CodeListCase {
     const char* name;
@@ -93,7 +117,9 @@ TEST_F(Checks, JournalWithoutStatementColumnGetsMinusOneAndIsReported) {
         "id,datum,cislo,popis,castka,castkacizi,kurz,reference,pausal,menaid,predkontaceid,pokladnaid,bankaid,"
         "protistranaid,obdobirok"));
     EXPECT_EQ(report, u8("Struktura databáze byla poškozená.\nByla obnovena, ale data mohou obsahovat chyby:\n"
-                         "Peněžní deník\n"));
+                         "Peněžní deník\n\nPřed úpravou byla databáze zkopírována do souboru:\n") +
+                          m_model->safetyCopy() + "\n");
+    expectCopyBefore("SELECT count(*) FROM pragma_table_info('denik') WHERE name='vypis'", 0);
     EXPECT_EQ(scalar("SELECT count(*) FROM denik WHERE vypis=-1"), 3);
     EXPECT_EQ(text("SELECT popis FROM denik WHERE id=2"), u8("Zápis 2"));
 }
@@ -133,17 +159,75 @@ TEST_F(Checks, TableWithoutKeysIsRebuiltWithAllRows) {
     EXPECT_EQ(scalar("SELECT count(*) FROM denik WHERE protistranaid=0"), 3);
 }
 
-TEST_F(Checks, DanglingReferencesPointAtValidRows) {
+TEST_F(Checks, MissingRowsComeBackAsPlaceholdersAndNothingMoves) {
     const wxString report = reopenAfter(
         "UPDATE denik SET menaid=77 WHERE id=1; UPDATE denik SET protistranaid=66 WHERE id=2;"
-        "UPDATE denik SET pokladnaid=NULL, bankaid=55 WHERE id=3; UPDATE kontakt SET adresaid=44 WHERE id=5");
-    EXPECT_THAT(report.ToStdString(wxConvUTF8), HasSubstr("Peněžní deník\n"));
-    EXPECT_THAT(report.ToStdString(wxConvUTF8), HasSubstr("Odběratelé a dodavatelé\n"));
+        "UPDATE denik SET pokladnaid=NULL, bankaid=55 WHERE id=3; UPDATE kontakt SET adresaid=44 WHERE id=5;"
+        "INSERT INTO faktura(id,protistranaid,celkem,cislo,typid,uhradaid,menaid,predkontaceid,obdobirok,vydana,"
+        "duzp,dphdruhid) VALUES(1,5,1210,'FV0001',1,2,1,1,(SELECT rok FROM obdobi),1,'2024-03-01',500)");
+    const std::string msg = report.ToStdString(wxConvUTF8);
+    EXPECT_THAT(msg, HasSubstr("Peněžní deník\n"));
+    EXPECT_THAT(msg, HasSubstr("Odběratelé a dodavatelé\n"));
+    EXPECT_THAT(msg, HasSubstr("Faktury\n"));
+    // Every recreated row and the one moved reference are named.
+    EXPECT_THAT(msg, HasSubstr("Peněžní deník: záznam 1 měl neexistující měnu 77, nastavena měna CZK"));
+    EXPECT_THAT(msg, HasSubstr("Odběratelé a dodavatelé: doplněn chybějící záznam OBNOVENO-66"));
+    EXPECT_THAT(msg, HasSubstr("Bankovní účty: doplněn chybějící záznam OBNOVENO-55"));
+    EXPECT_THAT(msg, HasSubstr("Adresy: doplněn chybějící záznam OBNOVENO-44"));
+    EXPECT_THAT(msg, HasSubstr("Druhy plnění DPH: doplněn chybějící záznam OBNOVENO-500"));
+
     EXPECT_EQ(scalar("SELECT menaid FROM denik WHERE id=1"), 1);
-    EXPECT_EQ(scalar("SELECT protistranaid FROM denik WHERE id=2"), 0);
-    EXPECT_EQ(scalar("SELECT bankaid FROM denik WHERE id=3"), 1);
-    EXPECT_EQ(scalar("SELECT adresaid FROM kontakt WHERE id=5"), 0);
+    EXPECT_EQ(scalar("SELECT protistranaid FROM denik WHERE id=2"), 66);
+    EXPECT_EQ(scalar("SELECT bankaid FROM denik WHERE id=3"), 55);
+    EXPECT_EQ(scalar("SELECT adresaid FROM kontakt WHERE id=5"), 44);
+    EXPECT_EQ(scalar("SELECT dphdruhid FROM faktura WHERE id=1"), 500);
+    EXPECT_EQ(text("SELECT nazev FROM kontakt WHERE id=66"), "OBNOVENO-66");
+    EXPECT_EQ(text("SELECT zkratka FROM banka WHERE id=55"), "OBNOVENO-55");
+    EXPECT_EQ(text("SELECT zkratka FROM dphdruh WHERE id=500"), "OBNOVENO-500");
     EXPECT_EQ(scalar("SELECT count(*) FROM pragma_foreign_key_check"), 0);
+    expectCopyBefore("SELECT count(*) FROM denik WHERE menaid=77 OR protistranaid=66 OR bankaid=55", 3);
+
+    // The recreated classification is kept by the next open, which has nothing to repair.
+    m_model->closeDatabase();
+    m_events.messages.clear();
+    EXPECT_EQ(reopenAfter(""), "");
+    EXPECT_EQ(text("SELECT zkratka FROM dphdruh WHERE id=500"), "OBNOVENO-500");
+}
+
+TEST_F(Checks, AJournalOfAVanishedAccountKeepsItsBalanceOnThatAccount) {
+    reopenAfter("INSERT INTO banka(id,zkratka,cislouctu,kodbanky,menaid) VALUES(10,'BU10','1','0800',1);"
+                "UPDATE denik SET pokladnaid=NULL, bankaid=10; DELETE FROM banka WHERE id=10");
+    EXPECT_THAT(reportText(), HasSubstr("OBNOVENO-10"));
+    EXPECT_EQ(scalar("SELECT count(*) FROM denik WHERE bankaid=10"), 3);
+    EXPECT_DOUBLE_EQ(std::fabs(m_model->getBankaStav(10)), 600.0);
+    EXPECT_DOUBLE_EQ(m_model->getBankaStav(1), 0.0);
+    EXPECT_NE(m_model->stavUctuAPokladen().Find("OBNOVENO-10"), wxNOT_FOUND);
+}
+
+TEST_F(Checks, CurrenciesInUseAreNeverDropped) {
+    // A currency beyond the program's list (a newer program's file) with an entry in it.
+    const char* const ISK = "INSERT INTO mena(id,kod,nazev) VALUES(40,'ISK','islandská koruna');"
+                            "UPDATE denik SET menaid=40, castkacizi=10000, castka=1700 WHERE id=1;";
+    EXPECT_EQ(reopenAfter(u8(ISK)), "");
+    EXPECT_EQ(m_model->tableRows("mena"), 40);
+    EXPECT_EQ(text("SELECT kod FROM mena WHERE id=(SELECT menaid FROM denik WHERE id=1)"), "ISK");
+
+    // Rows missing from the list bring the program's list back, with the currency in use.
+    m_model->closeDatabase();
+    EXPECT_EQ(reopenAfter("DELETE FROM mena WHERE id IN (38,39)"), "");
+    EXPECT_EQ(m_model->tableRows("mena"), 40);
+    EXPECT_EQ(scalar("SELECT count(*) FROM mena WHERE id IN (38,39)"), 2);
+    EXPECT_EQ(text("SELECT kod FROM mena WHERE id=(SELECT menaid FROM denik WHERE id=1)"), "ISK");
+    EXPECT_EQ(text("SELECT castkacizi FROM denik WHERE id=1"), "10000.0");
+
+    // A currency in use under an id the program gives another currency stays what it was.
+    m_model->closeDatabase();
+    EXPECT_EQ(reopenAfter("DELETE FROM mena WHERE id IN (38,39,40); UPDATE mena SET kod='ISK' WHERE id=5;"
+                          "UPDATE denik SET menaid=5 WHERE id=1"),
+              "");
+    EXPECT_EQ(text("SELECT kod FROM mena WHERE id=5"), "ISK");
+    EXPECT_EQ(scalar("SELECT menaid FROM denik WHERE id=1"), 5);
+    EXPECT_EQ(m_model->safetyCopy(), "");
 }
 
 TEST_F(Checks, RowsOfAVanishedPeriodGetTheirPeriodBack) {

@@ -8,11 +8,14 @@
 #include <cstring>
 #include <string>
 
+#include <unistd.h>
+
 #include "lxsettings.h"
 #include "lxutils.h"
 #include "testcompany.h"
 
 using ::testing::HasSubstr;
+using ::testing::Not;
 
 namespace {
 
@@ -35,13 +38,11 @@ TEST_F(Lifecycle, FilesThatAreNotDatabasesAreRefusedAndLeftAlone) {
     EXPECT_EQ(wxFileName::GetSize(path), size);
 }
 
-TEST_F(Lifecycle, AnEmptyFileBecomesACompleteDatabaseWithoutReport) {
+TEST_F(Lifecycle, AnEmptyFileIsNotACompanyAndStaysEmpty) {
     const wxString path = lxutils::dataDir() + "/empty.db";
     writeFile(path, "");
-    ASSERT_TRUE(m_model->openDatabase(path));
-    EXPECT_EQ(text("SELECT verze FROM version"), "1.40.14");
-    EXPECT_EQ(m_model->tableRows("mena"), 39);
-    EXPECT_EQ(m_model->tableRows("kontakt"), 1);
+    EXPECT_FALSE(m_model->openDatabase(path));
+    EXPECT_EQ(wxFileName::GetSize(path), 0u);
     EXPECT_TRUE(m_events.messages.empty());
 }
 
@@ -142,7 +143,7 @@ TEST_F(Cli, CreateCheckAndInfo) {
 
     const CliResult checked = runCli("check " + path);
     EXPECT_EQ(checked.status, 0);
-    EXPECT_EQ(checked.output, "");
+    EXPECT_EQ(checked.output, "Databáze je v pořádku.\n");
 
     const CliResult info = runCli("info " + path);
     EXPECT_THAT(info.output, HasSubstr("verze: 1.40.14"));
@@ -157,8 +158,90 @@ TEST_F(Cli, CreateCheckAndInfo) {
     EXPECT_EQ(repaired.status, 0);
     EXPECT_THAT(repaired.output, HasSubstr("Struktura databáze byla poškozená."));
     EXPECT_THAT(repaired.output, HasSubstr("Peněžní deník"));
+    EXPECT_THAT(repaired.output, HasSubstr("cli.pred-upravou-"));
+    EXPECT_THAT(repaired.output, Not(HasSubstr("v pořádku")));
 
     const CliResult missing = runCli("check " + m_home + "/nothing.db");
     EXPECT_NE(missing.status, 0);
-    EXPECT_THAT(missing.output, HasSubstr("Nepodařilo se otevřít databázi"));
+    EXPECT_THAT(missing.output, HasSubstr("neexistuje"));
+    EXPECT_FALSE(wxFileName::Exists(m_home + "/nothing.db", wxFILE_EXISTS_ANY));
+}
+
+TEST_F(Cli, UsageListsEveryCommandAndFails) {
+    for (const char* args : {"", "check", "nic soubor.db", "rates soubor.db"}) {
+        const CliResult usage = runCli(args);
+        EXPECT_EQ(usage.status, 2) << args;
+        for (const char* command : {"create", "check", "info", "rates", "import", "stav", "--verbose"})
+            EXPECT_THAT(usage.output, HasSubstr(command)) << args;
+    }
+}
+
+TEST_F(Cli, TechnicalDetailsOnlyWithVerbose) {
+    const wxString path = createCompany();
+    // Locked by this process: the user reads one Czech line, no SQLite English.
+    const CliResult locked = runCli("check " + path);
+    EXPECT_EQ(locked.status, 1);
+    EXPECT_EQ(locked.output, "Nepodařilo se otevřít databázi\n");
+    const CliResult verbose = runCli("check " + path + " --verbose");
+    EXPECT_EQ(verbose.status, 1);
+    EXPECT_THAT(verbose.output, HasSubstr("database is locked"));
+
+    // Not a database; a home whose data directory cannot be made.
+    const wxString text = m_home + "/text.db";
+    writeFile(text, "Toto není databáze, jen text, který zaplní první stránku souboru a nic víc.\n"
+                    "SQLite přečte prvních sto bajtů a žádný podpis databáze v nich nenajde.\n");
+    const CliResult notDb = runCli("--verbose info " + text);
+    EXPECT_THAT(notDb.output, HasSubstr("file is not a database"));
+    for (const wxString& args : {"info " + text, "HOME=/proc/nic EVIDA_CLI stav " + text}) {
+        const CliResult quiet = args.StartsWith("HOME") ? runShell(args) : runCli(args);
+        EXPECT_EQ(quiet.status, 1) << args;
+        EXPECT_THAT(quiet.output, Not(HasSubstr("Warning"))) << args;
+        EXPECT_THAT(quiet.output, Not(HasSubstr("SQL"))) << args;
+        EXPECT_THAT(quiet.output, Not(HasSubstr("couldn't"))) << args;
+        EXPECT_THAT(quiet.output, Not(HasSubstr("Failed"))) << args;
+    }
+}
+
+TEST_F(Cli, CheckReportsAFileWithoutItsCompany) {
+    const wxString path = m_home + "/bez-firmy.db";
+    ASSERT_EQ(runCli("create " + path).status, 0);
+    execOnFile(path, "DELETE FROM firma");
+    const CliResult check = runCli("check " + path);
+    EXPECT_EQ(check.status, 1);
+    EXPECT_THAT(check.output, HasSubstr("chybí údaje o firmě"));
+}
+
+class Create : public TestCompany {};
+
+TEST_F(Create, AFullDiskLeavesNoStubAndSaysWhy) {
+    const wxString path = m_home + "/plny.db";
+    // XFSZ ignored: the write fails with an error instead of killing the program.
+    const CliResult full = runShell("trap '' XFSZ; ulimit -f 100; EVIDA_CLI create " + path);
+    EXPECT_EQ(full.status, 1) << full.output;
+    EXPECT_THAT(full.output, HasSubstr("Databázi se nepodařilo vytvořit: zápis na disk selhal"));
+    EXPECT_THAT(full.output, Not(HasSubstr("rollback")));
+    EXPECT_FALSE(wxFileName::Exists(path, wxFILE_EXISTS_ANY));
+    EXPECT_FALSE(wxFileName::Exists(path + "-journal", wxFILE_EXISTS_ANY));
+    // Without the limit the same command works.
+    EXPECT_EQ(runCli("create " + path).status, 0);
+}
+
+TEST_F(Create, ASymbolicLinkIsNotFollowed) {
+    const wxString target = m_home + "/jinde.db", link = m_home + "/odkaz.db";
+    ASSERT_EQ(symlink(target.utf8_str(), link.utf8_str()), 0);
+    const CliResult created = runCli("create " + link);
+    EXPECT_EQ(created.status, 1);
+    EXPECT_THAT(created.output, HasSubstr("symbolický odkaz"));
+    EXPECT_FALSE(wxFileName::Exists(target, wxFILE_EXISTS_ANY));
+    EXPECT_FALSE(m_model->newDatabase(link));
+    EXPECT_FALSE(wxFileName::Exists(target, wxFILE_EXISTS_ANY));
+}
+
+TEST_F(Create, AnExistingCompanyIsNeverCreatedOver) {
+    const wxString path = createCompany();
+    m_model->closeDatabase();
+    const std::string before = fileBytes(path);
+    EXPECT_FALSE(m_model->newDatabase(path));
+    EXPECT_THAT(m_model->openError().ToStdString(wxConvUTF8), HasSubstr("už existuje"));
+    EXPECT_TRUE(fileBytes(path) == before) << "the file changed";
 }

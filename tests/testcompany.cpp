@@ -1,6 +1,7 @@
 #include "testcompany.h"
 
 #include <wx/dir.h>
+#include <wx/ffile.h>
 #include <wx/filefn.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -19,8 +20,12 @@
 
 wxDateTime lxSettingsToday() { return lxSettings::instance()->datum(); }
 
-CliResult runCli(const wxString& args) {
-    const wxString command = wxString(EVIDA_CLI) + " " + args + " 2>&1";
+CliResult runCli(const wxString& args) { return runShell(wxString(EVIDA_CLI) + " " + args); }
+
+CliResult runShell(const wxString& commandLine) {
+    wxString command = commandLine;
+    command.Replace("EVIDA_CLI", EVIDA_CLI);
+    command = "(" + command + ") 2>&1";
     CliResult result{-1, {}};
     FILE* pipe = popen(command.utf8_str(), "r");
     if (!pipe) return result;
@@ -29,6 +34,15 @@ CliResult runCli(const wxString& args) {
     const int status = pclose(pipe);
     result.status = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
     return result;
+}
+
+std::string fileBytes(const wxString& path) {
+    std::string bytes;
+    wxFFile f(path, "rb");
+    if (!f.IsOpened()) return bytes;
+    bytes.resize(f.Length());
+    if (!bytes.empty() && f.Read(&bytes[0], bytes.size()) != bytes.size()) bytes.clear();
+    return bytes;
 }
 
 EventRecorder::EventRecorder() {

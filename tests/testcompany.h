@@ -24,6 +24,12 @@ struct CliResult {
     std::string output;  // standard output and error together
 };
 CliResult runCli(const wxString& args);
+// The same for a shell command line (limits, traps); EVIDA_CLI in it names the program.
+CliResult runShell(const wxString& commandLine);
+
+// The whole content of a file ("" when it cannot be read): a file refused by the program
+// must stay byte for byte as it was.
+std::string fileBytes(const wxString& path);
 
 // Records what the model sends.
 class EventRecorder : public wxEvtHandler {

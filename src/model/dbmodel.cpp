@@ -3,7 +3,10 @@
 #include <wx/filename.h>
 #include <wx/log.h>
 
+#include <sqlite3.h>
+
 #include "lxsettings.h"
+#include "dbsafety.h"
 #include "lxutils.h"
 #include "recordio.h"
 #include "schema.h"
@@ -37,18 +40,49 @@ void DbModel::shutdownModel() {
 
 // ---------------------------------------------------------------- lifecycle
 
-bool DbModel::openFile(const wxString& path) {
+namespace {
+
+const char* const OPEN_FAILED = "Nepodařilo se otevřít databázi";
+
+// SQLite's primary result code of a failure.
+int primaryCode(const wxSQLite3Exception& e) { return e.GetErrorCode() & 0xff; }
+
+bool isDamage(const wxSQLite3Exception& e) {
+    return primaryCode(e) == SQLITE_CORRUPT || primaryCode(e) == SQLITE_NOTADB;
+}
+
+bool isSymlink(const wxString& path) {
+    return wxFileName::Exists(path, wxFILE_EXISTS_SYMLINK | wxFILE_EXISTS_NO_FOLLOW);
+}
+
+}  // namespace
+
+wxString DbModel::openError() const {
+    return m_openError.empty() ? wxString::FromUTF8(OPEN_FAILED) : m_openError;
+}
+
+void DbModel::fail(const wxString& message) {
     closeDatabase();
+    m_openError = message;
+}
+
+
+bool DbModel::openFile(const wxString& path, bool create) {
+    closeDatabase();
+    m_openError.clear();
     try {
-        m_db.Open(path, wxEmptyString, WXSQLITE_OPEN_READWRITE | WXSQLITE_OPEN_CREATE);
+        int flags = WXSQLITE_OPEN_READWRITE;
+        if (create) flags |= WXSQLITE_OPEN_CREATE;
+        m_db.Open(path, wxEmptyString, flags);
         if (m_db.IsReadOnly()) {
-            wxLogWarning(wxString::FromUTF8("Databázi %s nelze zapisovat"), path);
-            m_db.Close();
+            fail(wxString::Format(wxString::FromUTF8("Do souboru firmy nelze zapisovat:\n%s"), path));
             return false;
         }
         // A company open in another program stays locked for as long as it is open there, so
         // waiting for the lock is pointless: fail at once instead of after wxSQLite3's minute.
         m_db.SetBusyTimeout(200);
+        // Sorting and the checks' temporary tables stay in memory instead of temporary files.
+        m_db.ExecuteUpdate("PRAGMA temp_store = MEMORY;");
         // The exclusive lock taken by this empty transaction stays until the file is closed,
         // so a second program cannot use the company while it is open here.
         m_db.ExecuteUpdate("PRAGMA locking_mode = EXCLUSIVE;");
@@ -58,9 +92,34 @@ bool DbModel::openFile(const wxString& path) {
         return true;
     } catch (const wxSQLite3Exception& e) {
         sqllog::error("open " + path, e);
-        if (m_db.IsOpen()) m_db.Close();
+        fail(isDamage(e) ? dbsafety::damagedMessage(path) : wxString());
         return false;
     }
+}
+
+// The file is examined before anything reads or writes its rows: a damaged file would
+// otherwise be "repaired" from wrong rows and show wrong balances.
+bool DbModel::quickCheck(IntegrityCheck check) {
+    const wxString sql = check == IntegrityCheck::FULL ? "PRAGMA integrity_check" : "PRAGMA quick_check";
+    wxString problems;
+    try {
+        wxSQLite3ResultSet rs = m_db.ExecuteQuery(sql);
+        while (rs.NextRow()) {
+            const wxString line = rs.GetAsString(0);
+            if (line != "ok") problems += line + "\n";
+        }
+    } catch (const wxSQLite3Exception& e) {
+        sqllog::error(sql, e);
+        if (!isDamage(e)) {
+            fail(wxString());  // locked or unreadable: the general message
+            return false;
+        }
+        problems = e.GetMessage();
+    }
+    if (problems.empty()) return true;
+    wxLogWarning("%s: %s", m_path, problems);
+    fail(dbsafety::damagedMessage(m_path));
+    return false;
 }
 
 bool DbModel::openDatabase() {
@@ -73,52 +132,128 @@ bool DbModel::newDatabase() {
     return newDatabase(lxutils::dataDir() + "/" + lxSettings::instance()->dbname());
 }
 
-bool DbModel::openDatabase(const wxString& path) {
-    if (!openFile(path)) return false;
+bool DbModel::openDatabase(const wxString& path, IntegrityCheck check) {
+    closeDatabase();
+    m_openError.clear();
+    // Only newDatabase makes files; an empty file is not a company (SQLite would take it
+    // for a new database and the checks would fill it).
+    if (!wxFileName::FileExists(path)) {
+        m_openError = dbsafety::missingFileMessage(path);
+        return false;
+    }
+    if (wxFileName::GetSize(path) == 0) {
+        m_openError = dbsafety::emptyFileMessage(path);
+        return false;
+    }
+    if (!openFile(path, false)) return false;
     try {
         m_db.ExecuteScalar("SELECT count(*) FROM sqlite_master WHERE type='table'");
-        checkDb();
+    } catch (const wxSQLite3Exception& e) {
+        sqllog::error("open " + path, e);
+        fail(isDamage(e) ? dbsafety::damagedMessage(path) : wxString());
+        return false;
+    }
+    if (!quickCheck(check)) return false;
+    try {
+        if (!runChecks()) return false;
         m_db.EnableForeignKeySupport(true);
         m_currentRok = -1;
         return true;
     } catch (const wxSQLite3Exception& e) {
         sqllog::error("open " + path, e);
-        closeDatabase();
+        fail(isDamage(e) ? dbsafety::damagedMessage(path) : wxString());
         return false;
     }
 }
 
 bool DbModel::newDatabase(const wxString& path) {
-    if (!openFile(path)) return false;
+    closeDatabase();
+    m_openError.clear();
+    // A link would make the file somewhere else than where the user asked for it.
+    if (isSymlink(path)) {
+        m_openError = wxString::Format(wxString::FromUTF8("Soubor nelze vytvořit, cesta je symbolický odkaz:\n%s"), path);
+        return false;
+    }
+    if (wxFileName::FileExists(path)) {
+        m_openError = wxString::Format(wxString::FromUTF8("Soubor už existuje:\n%s"), path);
+        return false;
+    }
+    if (!openFile(path, true)) {
+        m_openError = dbsafety::createFailedMessage(path, SQLITE_CANTOPEN);
+        wxRemoveFile(path);
+        return false;
+    }
     try {
         m_db.EnableForeignKeySupport(true);
         m_db.ExecuteScalar("SELECT count(*) FROM sqlite_master WHERE type='table'");
-        createDatabase();
+        createTables();
         m_currentRok = -1;
         return true;
     } catch (const wxSQLite3Exception& e) {
         sqllog::error("create " + path, e);
-        closeDatabase();
+        fail(dbsafety::createFailedMessage(path, primaryCode(e)));
+        // Nothing half-made stays behind: the file did not exist before.
+        for (const char* suffix : {"", "-journal"}) {
+            if (wxFileName::FileExists(path + suffix)) wxRemoveFile(path + suffix);
+        }
         return false;
     }
 }
 
 void DbModel::createDatabase() {
+    try {
+        createTables();
+    } catch (const wxSQLite3Exception& e) {
+        sqllog::error("create", e);
+    }
+}
+
+// Every table with its seed rows in one transaction: a new file has all of them or none. A
+// seed statement may collide with an earlier one on purpose; any other failure (a full disk)
+// throws after the transaction was rolled back.
+void DbModel::createTables() {
     int count = 0;
     const schema::TableDef* tables = schema::creationOrder(&count);
-    // One transaction: a new file either has every table or none.
-    wxSQLite3Transaction tx(&m_db, WXSQLITE_TRANSACTION_IMMEDIATE);
-    for (int i = 0; i < count; ++i) createDatabaseTable(tables[i].statements, false);
-    tx.Commit();
+    m_db.ExecuteUpdate("BEGIN IMMEDIATE");
+    try {
+        for (int i = 0; i < count; ++i) {
+            const char* const* list = tables[i].statements;
+            for (int s = 0; list[s] != nullptr; ++s) {
+                try {
+                    m_db.ExecuteUpdate(wxString::FromUTF8(list[s]));
+                } catch (const wxSQLite3Exception& e) {
+                    if (s == 0 || primaryCode(e) != SQLITE_CONSTRAINT) throw;
+                    sqllog::expected(wxString::FromUTF8(list[s]), e);
+                }
+            }
+        }
+        m_db.ExecuteUpdate("COMMIT");
+    } catch (const wxSQLite3Exception&) {
+        // SQLite may have rolled back by itself (a full disk); only roll back what is open.
+        if (!m_db.GetAutoCommit()) {
+            try {
+                m_db.ExecuteUpdate("ROLLBACK");
+            } catch (const wxSQLite3Exception& e) {
+                sqllog::expected("ROLLBACK", e);
+            }
+        }
+        throw;
+    }
 }
 
 void DbModel::closeDatabase() {
+    // A message belongs to the open that failed; the next one starts without it.
+    m_openError.clear();
     if (!m_db.IsOpen()) return;
     try {
         m_db.ExecuteUpdate("PRAGMA locking_mode = NORMAL;");
         m_db.Close();
     } catch (const wxSQLite3Exception& e) {
         sqllog::error("close", e);
+        try {
+            if (m_db.IsOpen()) m_db.Close();
+        } catch (const wxSQLite3Exception&) {
+        }
     }
     m_path.clear();
     m_currentRok = -1;

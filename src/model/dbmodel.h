@@ -44,13 +44,27 @@ class DbModel {
     bool openDatabase();
     // Create a new file for the current company with every table and its seed rows.
     bool newDatabase();
-    // The same for an explicit path (evida-cli, tests).
-    bool openDatabase(const wxString& path);
+    // How thoroughly opening examines the file before anything else reads it: QUICK is
+    // "PRAGMA quick_check" (every open), FULL "PRAGMA integrity_check" (evida-cli check).
+    enum class IntegrityCheck { QUICK, FULL };
+    // The same for an explicit path (evida-cli, tests). Opening never creates a file; a
+    // missing, empty, damaged file or one with an unreadable or newer version is refused and
+    // left as it was, and openError() says why.
+    bool openDatabase(const wxString& path, IntegrityCheck check = IntegrityCheck::QUICK);
+    // Creates a new file; refuses an existing file or a symbolic link. A failed creation
+    // leaves no file behind.
     bool newDatabase(const wxString& path);
+    // The Czech message of the last failed open or creation ("Nepodařilo se otevřít
+    // databázi" when there is no better one).
+    wxString openError() const;
+    // The copy made before this open upgraded or repaired the file; empty when none was needed.
+    wxString safetyCopy() const { return m_safetyCopy; }
     void createDatabase();
     void closeDatabase();
     bool isOpen() const;
     wxString databasePath() const { return m_path; }
+    // Upgrade cascade and table checks; a file that cannot safely be upgraded or repaired is
+    // closed, with the reason in openError().
     void checkDb();
     // Convert settings entries written before company keys existed to "name_IČ" keys.
     void updateDbFirma();
@@ -72,6 +86,15 @@ class DbModel {
     // The id a new row of the table takes: the largest id + 1, or 1 for an empty table.
     int getLastId(const wxString& table);
     bool hasTable(const wxString& table);
+    // Replaces a code list by the program's rows, keeping the rows that user data refer to
+    // and the program's list lacks (a currency in use is never dropped).
+    void reseedCodeList(const char* table);
+    // Copies the open file beside itself through SQLite's backup, once per open, before the
+    // first change to a user's rows. Throws SafetyCopyFailed when the copy cannot be made.
+    struct SafetyCopyFailed {};
+    void ensureSafetyCopy();
+    // A line for the report of this open: a row that a repair recreated or moved, an upgrade.
+    void addRepairNote(const wxString& note) { m_repairNotes.Add(note); }
 
     // --- cached records (dbmodel.cpp) ---
     void fillData();
@@ -409,21 +432,31 @@ class DbModel {
 
    private:
     bool checkTableNamed(const char* table);
-    bool openFile(const wxString& path);
+    bool openFile(const wxString& path, bool create);
+    bool quickCheck(IntegrityCheck check);
+    bool runChecks();
+    void createTables();
+    void fail(const wxString& message);
     bool execScalarInt(const wxString& sql, int* value);
 
     // Upgrade cascade and table checks (dbmodel_upgrade.cpp, dbmodel_check.cpp).
-    void upgradeDb();
+    bool upgradeDb();
     bool checkTable(const schema::TableDef& table);
     bool checkCodeListTable(const schema::TableDef& table);
     bool checkUserTable(const schema::TableDef& table);
     bool rebuildTable(const schema::TableDef& table);
     bool repairDanglingReferences(const schema::TableDef& table);
+    int recreateMissingRows(const wxString& table, const wxString& column, const wxString& target,
+                            const wxString& targetColumn, const wxString& orphan);
+    int keptCodeListRows(const wxString& table);
     void fillIban();
 
     wxEvtHandler* m_parent;
     wxSQLite3Database m_db;
     wxString m_path;
+    wxString m_openError;
+    wxString m_safetyCopy;
+    wxArrayString m_repairNotes;
     Firma m_firma;
     int m_currentRok = -1;
     Smtp m_smtp;

@@ -1,10 +1,14 @@
 // The upgrade cascade run at every open: each step brings a file written by an older
 // version of the program one version further. A step runs when the file's version is at
-// most the step's threshold, and ends by writing its own version into the file.
+// most the step's threshold, and ends by writing its own version into the file. The file is
+// copied beside itself before the first step. A version that cannot be read, or one newer
+// than this program, never starts the cascade: such a file is refused, not "upgraded" from
+// the oldest version over today's data.
 #include <functional>
 #include <vector>
 
 #include "dbmodel.h"
+#include "dbsafety.h"
 #include "lxutils.h"
 #include "referenceschema.h"
 #include "schema.h"
@@ -22,16 +26,17 @@ void createIfMissing(DbModel& m, const char* table, const char* const* list) {
     if (!m.hasTable(table)) m.createDatabaseTable(list, false);
 }
 
-void recreate(DbModel& m, const char* table, const char* const* list) {
-    m.tryExecuteUpdate(wxString("DROP TABLE IF EXISTS ") + table);
-    m.createDatabaseTable(list, false);
-}
+// A code list replaced by the program's rows; rows that documents use stay.
+void recreate(DbModel& m, const char* table) { m.reseedCodeList(table); }
 
-// Adds a column as today's table defines it (type and reference), then fills it.
-void addColumn(DbModel& m, const char* table, const char* column, const char* fill = nullptr) {
-    m.tryExecuteUpdate(wxString::Format("ALTER TABLE %s ADD COLUMN %s", table,
-                                        referenceschema::addColumnDefinition(table, column)));
+// Adds a column as today's table defines it (type and reference), then fills it. A column
+// that could not be added (it is there already) keeps its values. Returns whether it was added.
+bool addColumn(DbModel& m, const char* table, const char* column, const char* fill = nullptr) {
+    if (!m.tryExecuteUpdate(wxString::Format("ALTER TABLE %s ADD COLUMN %s", table,
+                                             referenceschema::addColumnDefinition(table, column))))
+        return false;
     if (fill) m.tryExecuteUpdate(wxString::Format("UPDATE %s SET %s=%s", table, column, fill));
+    return true;
 }
 
 void upgradeTo130(DbModel& m) {
@@ -40,7 +45,7 @@ void upgradeTo130(DbModel& m) {
     createIfMissing(m, "priznani", sqlite_tb_priznani);
     createIfMissing(m, "dphdruh", sqlite_tb_dphdruh);
     createIfMissing(m, "ulozene", sqlite_tb_ulozene);
-    recreate(m, "dphsazba", sqlite_tb_dphsazba);
+    recreate(m, "dphsazba");
     for (const char* table : {"faktura", "zavpoh"}) {
         addColumn(m, table, "dppd", "duzp");
         addColumn(m, table, "dphdruhid");
@@ -79,8 +84,8 @@ void upgradeTo1400(DbModel& m) {
     createIfMissing(m, "ivpolozka", sqlite_tb_ivpolozka);
     createIfMissing(m, "pohybzasob", sqlite_tb_pohybzasob);
     addColumn(m, "kurz", "jednotny", "0");
-    if (!m.hasTableColumn("mena", "od") || !m.hasTableColumn("mena", "do")) recreate(m, "mena", sqlite_tb_mena);
-    recreate(m, "dphdruh", sqlite_tb_dphdruh);
+    if (!m.hasTableColumn("mena", "od") || !m.hasTableColumn("mena", "do")) recreate(m, "mena");
+    recreate(m, "dphdruh");
 }
 
 void upgradeTo1401(DbModel& m) {
@@ -98,8 +103,9 @@ void upgradeTo1404(DbModel& m) { addColumn(m, "fapolozka", "zaokrouhleni", "0");
 
 void upgradeTo1407(DbModel& m) {
     createIfMissing(m, "bankovniustav", sqlite_tb_bankovniustav);
-    addColumn(m, "banka", "iban");
-    addColumn(m, "banka", "bic");
+    const bool newIban = addColumn(m, "banka", "iban");
+    const bool newBic = addColumn(m, "banka", "bic");
+    if (!newIban && !newBic) return;
     struct Account {
         int id;
         wxString cislo, kod;
@@ -113,10 +119,13 @@ void upgradeTo1407(DbModel& m) {
     }
     for (const Account& a : accounts) {
         try {
-            wxSQLite3Statement iban = m.db().PrepareStatement("UPDATE banka SET iban=? WHERE id=?");
-            iban.Bind(1, lxutils::ibanFromUcet(a.cislo, a.kod));
-            iban.Bind(2, a.id);
-            iban.ExecuteUpdate();
+            if (newIban) {
+                wxSQLite3Statement iban = m.db().PrepareStatement("UPDATE banka SET iban=? WHERE id=?");
+                iban.Bind(1, lxutils::ibanFromUcet(a.cislo, a.kod));
+                iban.Bind(2, a.id);
+                iban.ExecuteUpdate();
+            }
+            if (!newBic) continue;
             wxSQLite3Statement find = m.db().PrepareStatement("SELECT bic FROM bankovniustav WHERE kod=?");
             find.Bind(1, a.kod);
             wxSQLite3ResultSet rs = find.ExecuteQuery();
@@ -132,7 +141,20 @@ void upgradeTo1407(DbModel& m) {
     }
 }
 
-void upgradeTo1408(DbModel& m) { recreate(m, "cenaphm", sqlite_tb_cenaphm); }
+void upgradeTo1408(DbModel& m) { recreate(m, "cenaphm"); }
+
+// Whether a well-formed version is later than this program's own. The parts are compared
+// one by one: the number versionToInt gives ranks "1.41.0" (1410) below "1.40.14" (1414).
+bool isNewerThanProgram(const wxString& version) {
+    const wxArrayString mine = wxSplit(lxutils::EVIDA_VERSION, '.'), theirs = wxSplit(version, '.');
+    for (size_t i = 0; i < 3; ++i) {
+        long a = 0, b = 0;
+        theirs[i].ToLong(&a);
+        mine[i].ToLong(&b);
+        if (a != b) return a > b;
+    }
+    return false;
+}
 
 const std::vector<UpgradeStep>& upgradeSteps() {
     static const std::vector<UpgradeStep> steps = {
@@ -148,19 +170,43 @@ const std::vector<UpgradeStep>& upgradeSteps() {
 
 } // namespace
 
-void DbModel::upgradeDb() {
-    if (!hasTable("version")) createDatabaseTable(sqlite_tb_version, false);
+bool DbModel::upgradeDb() {
+    // A file without its version row has lost only that row: it counts as current, and the
+    // table checks bring its tables to today's shape.
+    if (!hasTable("version")) {
+        createDatabaseTable(sqlite_tb_version, false);
+        return true;
+    }
+    bool hasRow = false, isNull = false;
     wxString verze;
     try {
         wxSQLite3ResultSet rs = m_db.ExecuteQuery("SELECT verze FROM version");
-        if (rs.NextRow()) verze = rs.GetAsString(0);
+        if (rs.NextRow()) {
+            hasRow = true;
+            isNull = rs.IsNull(0);
+            verze = rs.GetAsString(0);
+        }
     } catch (const wxSQLite3Exception& e) {
         sqllog::expected("SELECT verze FROM version", e);
+        return true;  // no column verze: the version check recreates the table
     }
+    if (!hasRow) return true;
+    wxString normalized = verze;
     // Versions before 1.40 were written with two parts: "1.20" counts as 1.20.0.
-    if (verze.Freq('.') == 1) verze += ".0";
-    const int v = lxutils::versionToInt(verze);
+    if (normalized.Freq('.') == 1) normalized += ".0";
+    const int v = isNull ? 0 : lxutils::versionToInt(normalized);
+    if (v <= 0) {
+        wxLogWarning("version: '%s'", verze);
+        fail(dbsafety::unreadableVersionMessage(m_path, isNull ? wxString("NULL") : verze));
+        return false;
+    }
+    if (isNewerThanProgram(normalized)) {
+        fail(dbsafety::newerVersionMessage(m_path, verze));
+        return false;
+    }
+    if (v >= lxutils::versionToInt(lxutils::EVIDA_VERSION)) return true;
 
+    ensureSafetyCopy();
     for (const UpgradeStep& step : upgradeSteps()) {
         if (v > step.threshold) continue;
         // Each step is one transaction; a failing statement inside it does not stop the others.
@@ -173,4 +219,7 @@ void DbModel::upgradeDb() {
             sqllog::error(wxString("upgrade to ") + step.version, e);
         }
     }
+    addRepairNote(wxString::Format(wxString::FromUTF8("Databáze byla převedena z verze %s na verzi %s."), verze,
+                                   lxutils::EVIDA_VERSION));
+    return true;
 }

@@ -16,7 +16,12 @@ int versionToInt(const wxString& version) {
     if (parts.size() != 3) return 0;
     long v[3];
     for (int i = 0; i < 3; ++i) {
-        if (!parts[i].ToLong(&v[i])) return 0;
+        // Digits only: a blank, a sign or a letter makes the text unreadable, not a number.
+        if (parts[i].empty() || parts[i].length() > 4) return 0;
+        for (wxUniChar c : parts[i]) {
+            if (c < '0' || c > '9') return 0;
+        }
+        parts[i].ToLong(&v[i]);
     }
     return static_cast<int>(v[0] * 1000 + v[1] * 10 + v[2]);
 }
