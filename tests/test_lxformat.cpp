@@ -58,14 +58,14 @@ INSTANTIATE_TEST_SUITE_P(
         AmountCase{"just_below_limit", "999 999 999 999,99", Chyba::ZADNA, 999999999999.99}),
     [](const auto& i) { return std::string(i.param.name); });
 
-struct RateCase {
+struct TypedRateCase {
     const char* text;
     Chyba chyba;
     double value;
 };
 
 TEST(RateParser, KeepsEveryDecimalAndRefusesNonPositiveRates) {
-    const RateCase cases[] = {{"0,001547", Chyba::ZADNA, 0.001547}, {"25.345", Chyba::ZADNA, 25.345},
+    const TypedRateCase cases[] = {{"0,001547", Chyba::ZADNA, 0.001547}, {"25.345", Chyba::ZADNA, 25.345},
                               {"0.125", Chyba::ZADNA, 0.125},       {"1.250", Chyba::ZADNA, 1.25},
                               {"0", Chyba::ROZSAH, 0},             {"-25", Chyba::ROZSAH, 0},
                               {"2e3", Chyba::SYNTAXE, 0},          {"", Chyba::PRAZDNE, 0},
@@ -77,13 +77,13 @@ TEST(RateParser, KeepsEveryDecimalAndRefusesNonPositiveRates) {
     }
 }
 
-struct DateCase {
+struct TypedDateCase {
     const char* text;
     const char* iso;  // empty: refused
 };
 
 TEST(DateParser, ReadsTypedDatesAndRefusesImpossibleOnes) {
-    const DateCase cases[] = {
+    const TypedDateCase cases[] = {
         {"15.10.2026", "2026-10-15"}, {"15. 10. 2026", "2026-10-15"}, {"5.3.2026", "2026-03-05"},
         {"15.10.", "2027-10-15"},     {"2026-10-15", "2026-10-15"},   {"5.3.26", "2026-03-05"},
         {"29.2.2028", "2028-02-29"},  {"29.2.2027", ""},              {"31.4.2026", ""},
