@@ -149,15 +149,15 @@ const char* const USER_TRACES =
     "INSERT INTO denik(id,datum,castka,castkacizi,kurz,pausal,menaid,predkontaceid,bankaid,obdobirok,"
     "protistranaid) VALUES(1,'2012-02-02',250,0,25,60,1,1,2,2012,0)";
 
-struct VersionCase {
+struct VersionRowCase {
     const char* name;
     const char* verze;  // SQL value
     const char* message;
 };
-class VersionRow : public Upgrade, public ::testing::WithParamInterface<VersionCase> {};
+class VersionRow : public Upgrade, public ::testing::WithParamInterface<VersionRowCase> {};
 
 TEST_P(VersionRow, ThatCannotBeReadRefusesTheFileAndChangesNothing) {
-    const VersionCase c = GetParam();
+    const VersionRowCase c = GetParam();
     const wxString path =
         oldCompany("1.40.14", wxString(USER_TRACES) + ";UPDATE version SET verze=" + wxString::FromUTF8(c.verze));
     const std::string before = fileBytes(path);
@@ -179,16 +179,16 @@ TEST_P(VersionRow, ThatCannotBeReadRefusesTheFileAndChangesNothing) {
 }
 INSTANTIATE_TEST_SUITE_P(
     Refused, VersionRow,
-    ::testing::Values(VersionCase{"empty_text", "''", "nečitelnou verzi"},
-                      VersionCase{"null", "NULL", "nečitelnou verzi"},
-                      VersionCase{"trailing_space", "'1.40.14 '", "nečitelnou verzi"},
-                      VersionCase{"leading_space", "' 1.40.14'", "nečitelnou verzi"},
-                      VersionCase{"signed", "'+1.40.14'", "nečitelnou verzi"},
-                      VersionCase{"words", "'verze 1.40'", "nečitelnou verzi"},
-                      VersionCase{"zero", "'0.0.0'", "nečitelnou verzi"},
-                      VersionCase{"four_parts", "'1.40.14.1'", "nečitelnou verzi"},
-                      VersionCase{"newer_program", "'1.41.0'", "novější verze programu (1.41.0)"},
-                      VersionCase{"newer_patch", "'1.40.15'", "novější verze programu"}),
+    ::testing::Values(VersionRowCase{"empty_text", "''", "nečitelnou verzi"},
+                      VersionRowCase{"null", "NULL", "nečitelnou verzi"},
+                      VersionRowCase{"trailing_space", "'1.40.14 '", "nečitelnou verzi"},
+                      VersionRowCase{"leading_space", "' 1.40.14'", "nečitelnou verzi"},
+                      VersionRowCase{"signed", "'+1.40.14'", "nečitelnou verzi"},
+                      VersionRowCase{"words", "'verze 1.40'", "nečitelnou verzi"},
+                      VersionRowCase{"zero", "'0.0.0'", "nečitelnou verzi"},
+                      VersionRowCase{"four_parts", "'1.40.14.1'", "nečitelnou verzi"},
+                      VersionRowCase{"newer_program", "'1.41.0'", "novější verze programu (1.41.0)"},
+                      VersionRowCase{"newer_patch", "'1.40.15'", "novější verze programu"}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(Upgrade, TwoPartVersionsStillCountAsTheirThreePartForm) {
