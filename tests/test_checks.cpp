@@ -272,3 +272,18 @@ TEST_F(Checks, SeveralDamagedTablesAreNamedInOneReport) {
     EXPECT_EQ(scalar("SELECT menaid FROM pokladna WHERE id=1"), 1);
     EXPECT_EQ(m_model->tableKeys("pokladna").size(), 1u);
 }
+
+// Files made when the seeds held the bank's figure per 100 units get the per-unit seed back;
+// a rate that is no such multiple of its seed is left as it is.
+TEST_F(Checks, SeededRatesOfOldFilesBecomePerUnit) {
+    EXPECT_EQ(reopenAfter("UPDATE kurz SET hodnota=21.815 WHERE kod='JPY' AND datum='2005-01-01';"
+                          "UPDATE kurz SET hodnota=31 WHERE kod='EUR' AND datum='2005-01-01'"),
+              "");
+    const auto hodnota = [&](const char* kod) {
+        return m_model->db().ExecuteScalar(
+            wxString::Format("SELECT round(hodnota*100000) FROM kurz WHERE kod='%s' AND datum='2005-01-01'", kod));
+    };
+    EXPECT_EQ(hodnota("JPY"), 21815);
+    EXPECT_EQ(hodnota("EUR"), 3100000);
+    m_model->closeDatabase();
+}

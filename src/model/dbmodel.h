@@ -449,6 +449,7 @@ class DbModel {
     int recreateMissingRows(const wxString& table, const wxString& column, const wxString& target,
                             const wxString& targetColumn, const wxString& orphan);
     int keptCodeListRows(const wxString& table);
+    void fixKurzSeedsPerUnit();
     void fillIban();
 
     wxEvtHandler* m_parent;

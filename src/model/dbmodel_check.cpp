@@ -230,6 +230,7 @@ bool DbModel::checkCodeListTable(const schema::TableDef& table) {
     for (const auto& col : referenceschema::columns(name)) columnsOk = columnsOk && present.Index(col.name) != wxNOT_FOUND;
     if (columnsOk) {
         const int rows = tableRows(name), seeds = rowsForInsertToTable(table.statements);
+        if (name == "kurz") fixKurzSeedsPerUnit();
         if (rows == seeds) return true;
         // A newer program's list holds more currencies than ours; they are all kept.
         if (name == "mena" && rows > seeds) return true;
@@ -240,6 +241,33 @@ bool DbModel::checkCodeListTable(const schema::TableDef& table) {
     // except rows that documents still use.
     reseedCodeList(table.name);
     return true;
+}
+
+// Files made before the seeded rates were stored per one unit hold the national bank's
+// figure per 100, 1000 or 1 000 000 units for some currencies (JPY, HUF, IDR, …), which made
+// every amount converted at them that many times too high. A stored seed row that is exactly
+// such a multiple of today's seed, on the seed's own day, is set to the per-unit value; a
+// rate the user downloaded is already per unit and is never such a multiple.
+void DbModel::fixKurzSeedsPerUnit() {
+    try {
+        WriteTransaction tx(m_db);
+        m_db.ExecuteUpdate("DROP TABLE IF EXISTS temp.kurz_seed");
+        m_db.ExecuteUpdate("CREATE TEMP TABLE kurz_seed (datum TEXT, hodnota REAL, kod TEXT, jednotny INTEGER)");
+        for (const char* const* st = sqlite_tb_kurz + 1; *st; ++st) {
+            wxString insert = wxString::FromUTF8(*st);
+            insert.Replace("INSERT INTO kurz(", "INSERT INTO temp.kurz_seed(");
+            m_db.ExecuteUpdate(insert);
+        }
+        m_db.ExecuteUpdate(
+            "UPDATE kurz SET hodnota=(SELECT s.hodnota FROM temp.kurz_seed s WHERE s.datum=kurz.datum AND "
+            "s.kod=kurz.kod AND s.jednotny=kurz.jednotny) WHERE EXISTS (SELECT 1 FROM temp.kurz_seed s, "
+            "(SELECT 100 AS n UNION ALL SELECT 1000 UNION ALL SELECT 1000000) q WHERE s.datum=kurz.datum AND "
+            "s.kod=kurz.kod AND s.jednotny=kurz.jednotny AND abs(kurz.hodnota - s.hodnota*q.n) <= 1e-9*s.hodnota*q.n)");
+        m_db.ExecuteUpdate("DROP TABLE temp.kurz_seed");
+        tx.commit();
+    } catch (const wxSQLite3Exception& e) {
+        sqllog::error("kurz per unit", e);
+    }
 }
 
 int DbModel::keptCodeListRows(const wxString& table) {
