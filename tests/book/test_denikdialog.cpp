@@ -332,7 +332,11 @@ TEST_F(DenikDialog, SwitchingToBankGrowsTheDialogForItsFields) {
     }
 }
 
-TEST_F(DenikDialog, EnterInAFieldPressesOk) {
+// Tests that send real keyboard and mouse events to the display. Any window another test opens
+// meanwhile would take the focus and the events, so these run alone (see CMakeLists.txt).
+class DenikDialogRealInput : public DenikDialog {};
+
+TEST_F(DenikDialogRealInput, EnterInAFieldPressesOk) {
     PrijemVydejDialog dialog(m_frame, true, false);
     EXPECT_EQ(dialog.GetDefaultItem(), dialog.FindWindow(wxID_OK));
     bool typed = false;
@@ -363,7 +367,7 @@ TEST_F(DenikDialog, EnterInAFieldPressesOk) {
     EXPECT_EQ(m_model->getDenik(dialog.denikId()).castka(), 1250.5);
 }
 
-TEST_F(DenikDialog, DayClickedInThePopUpCalendarIsTaken) {
+TEST_F(DenikDialogRealInput, DayClickedInThePopUpCalendarIsTaken) {
     PrijemVydejDialog dialog(m_frame, true, false);
     auto* datum = field<lxDateCtrl>(&dialog, "datum");
     wxDateTime shown;
