@@ -216,6 +216,106 @@ class DbModel {
     bool isFauhradaUsed(int id);
     bool isSkladUsed(int id);
 
+    // --- VAT rates and classifications (dph/dbmodel_dph.cpp) ---
+    // Rates: the percent of a rate row, the row of a percent in a year, the basic rate of a
+    // year and its highest and lowest reduced rates (0 when the year has none; with a single
+    // reduced rate both give that rate). A year of -1 is the current accounting year.
+    int getDphSazbaValue(int id);
+    int getDphSazbaId(int sazba, int rok);
+    int zakladniSazba(int rok);
+    int prvniSnizenaSazba(int rok);
+    int druhaSnizenaSazba(int rok);
+    // Classifications offered on income documents (issued invoices, receivables) and on
+    // expense documents (received invoices, liabilities).
+    lxDphDruhArray dphdruhyNabizenePrijem();
+    lxDphDruhArray dphdruhyNabizeneVydaj();
+    bool hasDphDruh(const wxString& zkratka);
+    // The distinct values the classification filter offers: codes of the subject of supply
+    // ("0" for none), rows of the return, control-statement sections ("Nepoužito" for none).
+    wxArrayString getDphDruhKpp();
+    wxArrayString getDphDruhRadky();
+    wxArrayString getDphDruhKh();
+    std::vector<int> getDphDruhIdByRadek(const wxString& radky);
+    std::vector<int> getDphDruhIdByRadek(const wxArrayString& radky);
+    std::vector<int> getDphDruhIdByKh(const wxString& kh);
+    // Toggles whether the document dialogs offer the classification.
+    bool nabizetDphDruh(int id);
+    // Whether some classification with that code is valid on the day (both ends inclusive).
+    bool isDphDruhValidForDatum(const wxString& zkratka, const wxDateTime& datum);
+    // The customer pays the tax: the classification feeds row 25 (reverse charge, supplier).
+    bool dphPlatiZakaznik(int id);
+    bool kracenyDphDruh(int id);
+
+    // --- invoices, receivables/liabilities and their items (fakturace/dbmodel_faktura.cpp) ---
+    // Adding with `notify` false stores the row without a change notice (the document dialog
+    // creates its row on open and announces the document only when it is saved). Deleting
+    // removes, in one transaction, the journal entries that pay the document (with their
+    // payment rows), the stock movements of its items, its items and the row itself; with
+    // `notify` false no notice is sent.
+    bool addFaktura(const Faktura& faktura, bool notify);
+    bool deleteFaktura(int id, bool notify);
+    bool addZavPoh(const ZavPoh& zavpoh, bool notify);
+    bool deleteZavPoh(int id, bool notify);
+    // Documents of the current year ordered by number.
+    lxFakturaArray vystavene();
+    lxFakturaArray prijate();
+    lxZavPohArray zavazky();
+    lxZavPohArray pohledavky();
+    bool isFakturaVydana(int id);
+    wxDateTime getFakturaVystaveni(int id);
+    wxString getFakturaCisloById(int id);
+    wxString getZavPohCisloById(int id);
+    // Items of a document in the order they were entered.
+    lxFaPolozkaArray fapolozkyByFakturaId(int id);
+    lxFaPolozkaArray fapolozkyByZavpohId(int id);
+    bool deleteFaPolozkyByFakturaId(int id);
+    bool deleteFaPolozkyByZavpohId(int id);
+    // The document's VAT: the sum of its items' VAT, in the document's currency.
+    double dphFaktury(int id);
+    double dphZavPoh(int id);
+    // The VAT summary per rate, highest rate first; in home currency when asked (multiplied by
+    // the document's rate; a receivable/liability reads that rate from the invoice row with
+    // the same id, as the program always has).
+    std::vector<FaDphSazba> dphFakturaSouhrn(int id, bool inCurrency);
+    std::vector<FaDphSazba> dphZavPohSouhrn(int id, bool inCurrency);
+    // Payment forms.
+    bool deleteFauhrada(int id);
+    bool faUhradaPokladnou(int id);
+    int firstFaUhrada();  // -1 for none
+    // Stock movements that an invoice's items made.
+    bool deletePohybyzasobByFakturaId(int id);
+    bool editPohybzasobDatum(int fakturaid, const wxDateTime& datum);
+
+    // --- payments (fakturace/dbmodel_uhrada.cpp) ---
+    // A payment row links a journal entry to the invoice or receivable/liability it settles.
+    // addUhrada (a family operation) inserts one.
+    double uhrazenoByFakturaId(int id);
+    double uhrazenoByZavpohId(int id);
+    // Paid: the paid total reaches the document's total (an exact comparison).
+    bool isFakturaUhrazena(int id);
+    bool isZavpohUhrazena(int id);
+    // Overdue: unpaid and due before the working date.
+    bool isFakturaPosplatnosti(int id);
+    bool isZavpohPosplatnosti(int id);
+    bool someUhradaForFaktura(int id);
+    bool someUhradaForZavpoh(int id);
+    lxDenikArray denikUhradForFaktura(int id);
+    lxDenikArray denikUhradForZavpoh(int id);
+    // Deletes the journal entries that pay the document; their payment rows go with them.
+    bool deleteUhradaByFakturaId(int id);
+    bool deleteUhradaByZavpohId(int id);
+    bool someNeuhrazenaFakturaOrZavpoh();
+    // Unpaid documents of the current and all earlier years, oldest year first, by number.
+    lxFakturaViewArray neuhrazeneFakturyView();
+    lxZavPohViewArray neuhrazeneZavpohyView();
+    // Open receivables (issued invoices, receivables) and liabilities (received invoices,
+    // liabilities) of the years up to `rok`, in home currency; a foreign document counts at
+    // the single yearly rate of `rok`, or of the year before while `rok` is this calendar year.
+    double getPohledavkyStav(int rok);
+    double getZavazkyStav(int rok);
+    bool hasPohledavkyDluhyCizi(int rok);
+    bool hasJednotneKurzyForPohledavkyDluhy(int rok);
+
     // --- periods and per-year settings (dbmodel_obdobi.cpp) ---
     // addObdobi (a family operation) also caches the year when it is the current one;
     // deleteObdobi takes the period's rows with it (cascading keys).

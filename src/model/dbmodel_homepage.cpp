@@ -58,13 +58,14 @@ wxString unpaidSummary(wxSQLite3Database& db, int rok, const char* table, const 
         while (rs.NextRow()) {
             const double castka = rs.IsNull(0) ? 0.0 : rs.GetDouble(0);
             const double uhrazeno = rs.GetDouble(2);
-            if (uhrazeno >= castka || lxutils::isSameDouble(uhrazeno, castka, 1e-12, 1e-8)) continue;
+            if (isDokladUhrazen(castka, uhrazeno)) continue;
             // Documents in the home currency may carry no rate at all.
             const double kurz = rs.IsNull(1) || rs.GetDouble(1) == 0.0 ? 1.0 : rs.GetDouble(1);
             ++neuhrazene;
             celkem += castka * kurz;
             wxDateTime splatnost;
-            if (!rs.IsNull(3) && splatnost.ParseISODate(rs.GetAsString(3)) && splatnost.IsEarlierThan(dnes))
+            if (!rs.IsNull(3) && splatnost.ParseISODate(rs.GetAsString(3)) &&
+                isDokladPoSplatnosti(castka, uhrazeno, splatnost, dnes))
                 ++poSplatnosti;
         }
     } catch (const wxSQLite3Exception& e) {

@@ -5,46 +5,67 @@
 
 namespace {
 
-// Invoices or receivables/liabilities of a year with their counterparty and the amount paid
-// so far; `direction` is the condition that picks issued or received ones.
-wxString dokladyView(const char* table, const char* paidBy, const char* extraColumns, const char* direction) {
+// Invoices or receivables/liabilities with their counterparty, currency and the amount paid
+// so far; `extraColumns` adds the columns of the kind, `where` picks the rows (its "?" are
+// bound by the caller).
+wxString dokladyView(const char* table, const char* paidBy, const char* extraColumns, const wxString& where) {
     return wxString::Format(
         "SELECT f.id AS id, f.cislo AS cislo, f.popis AS popis, k.nazev AS protistrana, f.celkem AS celkem, "
-        "f.vystaveni AS vystaveni, f.splatnost AS splatnost, IFNULL(u.uhrazeno,0) AS uhrazeno%s "
-        "FROM %s f LEFT JOIN kontakt k ON f.protistranaid=k.id "
+        "f.vystaveni AS vystaveni, f.splatnost AS splatnost, IFNULL(u.uhrazeno,0) AS uhrazeno, m.kod AS mena, "
+        "f.kurz AS kurz, f.obdobirok AS obdobirok%s "
+        "FROM %s f LEFT JOIN kontakt k ON f.protistranaid=k.id LEFT JOIN mena m ON f.menaid=m.id "
         "LEFT JOIN (SELECT %s AS dokladid, total(castka) AS uhrazeno FROM uhrada WHERE %s IS NOT NULL GROUP BY %s) u "
         "ON u.dokladid=f.id "
-        "WHERE f.obdobirok=? AND %s ORDER BY f.cislo, f.id",
-        extraColumns, table, paidBy, paidBy, paidBy, direction);
+        "WHERE %s ORDER BY f.obdobirok, f.cislo, f.id",
+        extraColumns, table, paidBy, paidBy, paidBy, where);
 }
+
+const char* const FAKTURA_COLUMNS = ", f.platce AS platce, f.typid AS typid, f.vydana AS vydana";
+const char* const ZAVPOH_COLUMNS = ", f.zavazek AS zavazek";
 
 }  // namespace
 
 // The journal's list rows are written with the journal (dbmodel_denik.cpp).
 
+// Unpaid documents of the current and earlier years: the same exact rule as isDokladUhrazen,
+// evaluated by SQLite on the summed payments.
+lxFakturaViewArray DbModel::neuhrazeneFakturyView() {
+    if (isForeignStorage()) return {};
+    return recordio::query<FakturaView>(
+        m_db, dokladyView("faktura", "fakturaid", FAKTURA_COLUMNS, "f.obdobirok<=? AND NOT IFNULL(f.celkem,0)<=IFNULL(u.uhrazeno,0)"),
+        currentRok());
+}
+
+lxZavPohViewArray DbModel::neuhrazeneZavpohyView() {
+    if (isForeignStorage()) return {};
+    return recordio::query<ZavPohView>(
+        m_db, dokladyView("zavpoh", "zavpohid", ZAVPOH_COLUMNS, "f.obdobirok<=? AND NOT IFNULL(f.celkem,0)<=IFNULL(u.uhrazeno,0)"),
+        currentRok());
+}
+
 lxFakturaViewArray DbModel::vystaveneview() {
     if (isForeignStorage()) return {};
     return recordio::query<FakturaView>(
-        m_db, dokladyView("faktura", "fakturaid", ", f.platce AS platce, f.typid AS typid", "f.vydana=1"),
+        m_db, dokladyView("faktura", "fakturaid", FAKTURA_COLUMNS, "f.obdobirok=? AND f.vydana=1"),
         currentRok());
 }
 
 lxFakturaViewArray DbModel::prijateview() {
     if (isForeignStorage()) return {};
     return recordio::query<FakturaView>(
-        m_db, dokladyView("faktura", "fakturaid", ", f.platce AS platce, f.typid AS typid", "IFNULL(f.vydana,0)<>1"),
+        m_db, dokladyView("faktura", "fakturaid", FAKTURA_COLUMNS, "f.obdobirok=? AND IFNULL(f.vydana,0)<>1"),
         currentRok());
 }
 
 lxZavPohViewArray DbModel::pohledavkyview() {
     if (isForeignStorage()) return {};
-    return recordio::query<ZavPohView>(m_db, dokladyView("zavpoh", "zavpohid", "", "IFNULL(f.zavazek,0)<>1"),
+    return recordio::query<ZavPohView>(m_db, dokladyView("zavpoh", "zavpohid", ZAVPOH_COLUMNS, "f.obdobirok=? AND IFNULL(f.zavazek,0)<>1"),
                                        currentRok());
 }
 
 lxZavPohViewArray DbModel::zavazkyview() {
     if (isForeignStorage()) return {};
-    return recordio::query<ZavPohView>(m_db, dokladyView("zavpoh", "zavpohid", "", "f.zavazek=1"), currentRok());
+    return recordio::query<ZavPohView>(m_db, dokladyView("zavpoh", "zavpohid", ZAVPOH_COLUMNS, "f.obdobirok=? AND f.zavazek=1"), currentRok());
 }
 
 // Contact 0 (no counterparty) is not an entry of the address book.

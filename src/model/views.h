@@ -12,13 +12,16 @@
     F(wxString, zkratka, Zkratka, zkratka) F(int, vypis, Vypis, vypis)
 EVIDA_RECORD(DenikView, denikview, id, FIELDS_DENIKVIEW)
 
-// An invoice: number, description, counterparty, total, issue and due date, the amount paid
-// so far, whether made out as a VAT payer's, and its type (1 invoice, 2 advance invoice).
+// An invoice: number, description, counterparty, total (in its currency), issue and due date,
+// the amount paid so far, whether made out as a VAT payer's, its type (1 invoice, 2 advance
+// invoice), direction, currency code, rate and accounting year.
 #define FIELDS_FAKTURAVIEW(F)                                                                              \
     F(int, id, Id, id) F(wxString, cislo, Cislo, cislo) F(wxString, popis, Popis, popis)                    \
     F(wxString, protistrana, Protistrana, protistrana) F(double, celkem, Celkem, celkem)                    \
     F(wxDateTime, vystaveni, Vystaveni, vystaveni) F(wxDateTime, splatnost, Splatnost, splatnost)          \
-    F(double, uhrazeno, Uhrazeno, uhrazeno) F(bool, platce, Platce, platce) F(int, typid, Typid, typid)
+    F(double, uhrazeno, Uhrazeno, uhrazeno) F(bool, platce, Platce, platce) F(int, typid, Typid, typid)    \
+    F(bool, vydana, Vydana, vydana) F(wxString, mena, Mena, mena) F(double, kurz, Kurz, kurz)               \
+    F(int, obdobirok, Obdobirok, obdobirok)
 EVIDA_RECORD(FakturaView, fakturaview, id, FIELDS_FAKTURAVIEW)
 
 // A receivable or liability, as an invoice without symbols and type.
@@ -26,7 +29,8 @@ EVIDA_RECORD(FakturaView, fakturaview, id, FIELDS_FAKTURAVIEW)
     F(int, id, Id, id) F(wxString, cislo, Cislo, cislo) F(wxString, popis, Popis, popis)                    \
     F(wxString, protistrana, Protistrana, protistrana) F(double, celkem, Celkem, celkem)                    \
     F(wxDateTime, vystaveni, Vystaveni, vystaveni) F(wxDateTime, splatnost, Splatnost, splatnost)          \
-    F(double, uhrazeno, Uhrazeno, uhrazeno)
+    F(double, uhrazeno, Uhrazeno, uhrazeno) F(bool, zavazek, Zavazek, zavazek) F(wxString, mena, Mena, mena) \
+    F(double, kurz, Kurz, kurz) F(int, obdobirok, Obdobirok, obdobirok)
 EVIDA_RECORD(ZavPohView, zavpohview, id, FIELDS_ZAVPOHVIEW)
 
 // A contact with its address, for the address book.
@@ -59,3 +63,19 @@ EVIDA_RECORD(ZasobaView, zasobaview, id, FIELDS_ZASOBAVIEW)
     F(int, km, Km, km) F(wxString, vozidlo, Vozidlo, vozidlo) F(wxString, ridic, Ridic, ridic)          \
     F(wxString, cesta, Cesta, cesta) F(wxString, ucel, Ucel, ucel) F(bool, soukrome, Soukrome, soukrome)
 EVIDA_RECORD(JizdaView, jizdaview, id, FIELDS_JIZDAVIEW)
+
+// One line of a document's VAT summary: the rate in percent, the base and the VAT.
+struct FaDphSazba {
+    int sazba = 0;
+    double zaklad = 0;
+    double dph = 0;
+};
+
+// The one rule of a paid document: its payments reach its total. The comparison is exact;
+// a document short by a thousandth of a crown is still open.
+inline bool isDokladUhrazen(double celkem, double uhrazeno) { return celkem <= uhrazeno; }
+// Overdue: unpaid and due before `dnes` (the working date); due on that day is not overdue.
+inline bool isDokladPoSplatnosti(double celkem, double uhrazeno, const wxDateTime& splatnost, const wxDateTime& dnes) {
+    return !isDokladUhrazen(celkem, uhrazeno) && splatnost.IsValid() && dnes.IsValid() &&
+           splatnost.GetDateOnly().IsEarlierThan(dnes.GetDateOnly());
+}

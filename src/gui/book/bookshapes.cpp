@@ -90,10 +90,11 @@ wxDateTime today() {
 
 enum Stav { UHRAZENO = 0, NEUHRAZENO = 1, PO_SPLATNOSTI = 2 };
 
+// The model's own rule of paid and overdue, on the row's summed payments.
 template <class Row>
 Stav stav(const Row& r) {
-    if (r.uhrazeno() >= r.celkem() || lxutils::isSameDouble(r.uhrazeno(), r.celkem(), 1e-12, 1e-8)) return UHRAZENO;
-    if (r.splatnost().IsValid() && r.splatnost().GetDateOnly().IsEarlierThan(today())) return PO_SPLATNOSTI;
+    if (isDokladUhrazen(r.celkem(), r.uhrazeno())) return UHRAZENO;
+    if (isDokladPoSplatnosti(r.celkem(), r.uhrazeno(), r.splatnost(), today())) return PO_SPLATNOSTI;
     return NEUHRAZENO;
 }
 
