@@ -1,6 +1,8 @@
 #include "booktest.h"
 
 #include <wx/app.h>
+#include <wx/button.h>
+#include <wx/dialog.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -82,6 +84,31 @@ void typeText(wxWindow* dialog, const char* name, const wxString& text) {
         control->Remove(0, control->GetLastPosition());  // Delete over the selection
     else
         control->WriteText(text);
+}
+
+void pressOk(wxDialog* dialog) {
+    auto* ok = dynamic_cast<wxButton*>(dialog->FindWindow(wxID_OK));
+    ASSERT_NE(ok, nullptr);
+    wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
+    event.SetEventObject(ok);
+    ok->ProcessWindowEvent(event);
+}
+
+// Runs the dialog modally, as the journal page does; once its own event loop runs, `person`
+// fills it in and OK is pressed. A dialog that stays open is cancelled afterwards, so the
+// test goes on.
+Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {
+    Outcome outcome;
+    wxTheApp->CallAfter([&] {
+        person(&dialog);
+        pressOk(&dialog);
+        if (dialog.IsModal()) {
+            outcome.focus = wxWindow::FindFocus();
+            dialog.EndModal(wxID_CANCEL);
+        }
+    });
+    outcome.closed = dialog.ShowModal() == wxID_OK;
+    return outcome;
 }
 
 void choose(wxChoice* choice, int index) {

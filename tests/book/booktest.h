@@ -7,6 +7,7 @@
 #include <wx/frame.h>
 #include <wx/choice.h>
 
+#include <functional>
 #include <memory>
 
 #include "dbmodel.h"
@@ -34,6 +35,19 @@ Control* field(wxWindow* parent, const char* name) {
 void typeText(wxWindow* dialog, const char* name, const wxString& text);
 // Picks an item of a choice as the user would: the choice tells the dialog.
 void choose(wxChoice* choice, int index);
+
+class wxDialog;
+// Presses OK of a dialog as a click does.
+void pressOk(wxDialog* dialog);
+// What happened when OK was pressed: whether the dialog closed, and where the focus was
+// left when it stayed open.
+struct Outcome {
+    bool closed = false;
+    wxWindow* focus = nullptr;
+};
+// Runs the dialog modally, as the pages do; once its own event loop runs, `person` fills it
+// in and OK is pressed. A dialog that stays open is cancelled afterwards, so the test goes on.
+Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person);
 
 class BookTest : public ::testing::Test {
  protected:

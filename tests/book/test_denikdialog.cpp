@@ -30,38 +30,6 @@ int menaIndex(wxChoice* mena, const char* kod) {
     return -1;
 }
 
-void pressOk(wxDialog* dialog) {
-    auto* ok = dynamic_cast<wxButton*>(dialog->FindWindow(wxID_OK));
-    ASSERT_NE(ok, nullptr);
-    wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
-    event.SetEventObject(ok);
-    ok->ProcessWindowEvent(event);
-}
-
-// What happened when OK was pressed: whether the dialog closed, and where the focus was
-// left when it stayed open.
-struct Outcome {
-    bool closed = false;
-    wxWindow* focus = nullptr;
-};
-
-// Runs the dialog modally, as the journal page does; once its own event loop runs, `person`
-// fills it in and OK is pressed. A dialog that stays open is cancelled afterwards, so the
-// test goes on.
-Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {
-    Outcome outcome;
-    wxTheApp->CallAfter([&] {
-        person(&dialog);
-        pressOk(&dialog);
-        if (dialog.IsModal()) {
-            outcome.focus = wxWindow::FindFocus();
-            dialog.EndModal(wxID_CANCEL);
-        }
-    });
-    outcome.closed = dialog.ShowModal() == wxID_OK;
-    return outcome;
-}
-
 // The ordinary fields of a cash entry; the test types the rest.
 void fillIncome(wxDialog* d, const char* castka = "100") {
     typeText(d, "popis", u8("Tržba"));
