@@ -6,8 +6,8 @@
 #include <wx/combobox.h>
 #include <wx/dateevt.h>
 #include <wx/listctrl.h>
-#include <wx/sizer.h>
 #include <wx/settings.h>
+#include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 #include <wx/utils.h>
@@ -146,7 +146,7 @@ void DokladDialog::build() {
         const char* title;
         int width;
         bool right;
-    } columns[] = {{"Popis", 220, false}, {"MJ", 50, false}, {"Počet", 70, true}, {"Cena za MJ", 100, true},
+    } columns[] = {{"Popis", 220, false}, {"MJ", 50, false}, {"Počet", 70, true},  {"Cena za MJ", 100, true},
                    {"DPH %", 60, true},   {"DPH", 90, true}, {"Celkem", 100, true}};
     int c = 0;
     for (const auto& column : columns)
@@ -253,8 +253,8 @@ void DokladDialog::buildHlavicka(wxFlexGridSizer* grid) {
     grid->Add(m_kontaktInfo);
 
     label(this, grid, "Úhrada:");
-    m_uhrada =
-        new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxArrayString(), 0, wxDefaultValidator, "uhrada");
+    m_uhrada = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxArrayString(), 0, wxDefaultValidator,
+                            "uhrada");
     cell(grid, m_uhrada);
     m_registrLabel = label(this, grid, "Pokladna:");
     m_registr = text(this, "registr", 120);
@@ -321,8 +321,8 @@ void DokladDialog::buildDatumy(wxFlexGridSizer* grid) {
         cell(grid, m_pausal);
     }
     grid->AddSpacer(0);
-    m_platce = new wxCheckBox(this, wxID_ANY, u8("Plátce DPH"), wxDefaultPosition, wxDefaultSize, 0,
-                              wxDefaultValidator, "platce");
+    m_platce = new wxCheckBox(this, wxID_ANY, u8("Plátce DPH"), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
+                              "platce");
     grid->Add(m_platce);
 
     if (model)
@@ -339,9 +339,7 @@ void DokladDialog::buildDatumy(wxFlexGridSizer* grid) {
     m_vystaveni->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { onVystaveniChanged(); });
     m_duzp->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { onDuzpChanged(); });
     m_splatnost->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { m_splatnostZmenena = true; });
-    m_platce->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) {
-        m_dphdruh->Enable(m_platce->GetValue());
-    });
+    m_platce->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { m_dphdruh->Enable(m_platce->GetValue()); });
 }
 
 void DokladDialog::load() {
@@ -407,7 +405,9 @@ DokladForm DokladDialog::readForm(DokladPole* chyba, wxString* zprava) const {
     };
     if (chyba) *chyba = DokladPole::ZADNE;
     form.typid = m_typ && m_typ->GetSelection() == 1 ? 2 : 1;
-    const auto value = [](const wxTextCtrl* field) { return field ? field->GetValue().Strip(wxString::both) : wxString(); };
+    const auto value = [](const wxTextCtrl* field) {
+        return field ? field->GetValue().Strip(wxString::both) : wxString();
+    };
     form.cislo = value(m_cislo);
     form.vs = value(m_vs);
     form.ss = value(m_ss);
@@ -497,7 +497,7 @@ void DokladDialog::focusField(DokladPole pole) {
         default:
             break;
     }
-    wxTextCtrl* field = pole == DokladPole::REGISTR ? m_registr
+    wxTextCtrl* field = pole == DokladPole::REGISTR       ? m_registr
                         : pole == DokladPole::PREDKONTACE ? m_predkontace
                         : pole == DokladPole::KURZ        ? static_cast<wxTextCtrl*>(m_kurz)
                                                           : nullptr;

@@ -87,11 +87,11 @@ class DokladDialog : public wxDialog {
     bool m_saved = false;
     bool m_undone = false;
     bool m_splatnostZmenena = false;
-    bool m_polozkyZmeneny = false;  // items added, edited or deleted since the last save
+    bool m_polozkyZmeneny = false;      // items added, edited or deleted since the last save
     lxFaPolozkaArray m_puvodniPolozky;  // an edited document's items when the dialog opened
     std::vector<int> m_menaIds;
     std::vector<int> m_uhradaIds;
-    std::vector<int> m_polozkaIds;  // the listed items' ids, in list order
+    std::vector<int> m_polozkaIds;            // the listed items' ids, in list order
     KontaktCompleter* m_completer = nullptr;  // owned by the counterparty field
 
     wxChoice* m_typ = nullptr;

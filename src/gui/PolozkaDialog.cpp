@@ -25,8 +25,8 @@ DbModel* openModel() {
 }  // namespace
 
 PolozkaDialog::PolozkaDialog(wxWindow* parent, const DokladForm& doklad, int id)
-    : wxDialog(parent, wxID_ANY, u8(id > 0 ? "Upravit položku" : "Přidat položku"), wxDefaultPosition,
-               wxDefaultSize, wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
+    : wxDialog(parent, wxID_ANY, u8(id > 0 ? "Upravit položku" : "Přidat položku"), wxDefaultPosition, wxDefaultSize,
+               wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER),
       m_doklad(doklad) {
     DbModel* model = openModel();
     if (model) {
@@ -61,8 +61,8 @@ void PolozkaDialog::build() {
         return w;
     };
     label("Popis:");
-    m_popis = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(300, -1), 0, wxDefaultValidator,
-                             "popis");
+    m_popis =
+        new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(300, -1), 0, wxDefaultValidator, "popis");
     add(m_popis, true);
     label("MJ:");
     m_mj = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(80, -1), 0, wxDefaultValidator, "mj");
@@ -131,8 +131,8 @@ bool PolozkaDialog::readForm(PolozkaForm* form, wxString* zprava, wxWindow** pol
         form->sazba = 0;
         form->bezdph = false;
     }
-    for (const auto& [field, name, value] : {std::make_tuple(m_pocet, "Počet", &form->pocet),
-                                             std::make_tuple(m_cenamj, "Cena za MJ", &form->cenamj)}) {
+    for (const auto& [field, name, value] :
+         {std::make_tuple(m_pocet, "Počet", &form->pocet), std::make_tuple(m_cenamj, "Cena za MJ", &form->cenamj)}) {
         if (field->GetValue(value) == lxformat::Chyba::ZADNA) continue;
         if (zprava) *zprava = field->zprava(u8(name));
         if (pole) *pole = field;

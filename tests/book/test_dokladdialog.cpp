@@ -77,10 +77,12 @@ class DokladDialogTest : public BookTest {
     // A paid issued invoice of one item, made through the dialog.
     int zaplacenaFaktura() {
         FakturaDialog dialog(m_frame, true);
-        EXPECT_TRUE(fillAndOk(dialog, [](wxDialog* d) {
-                        fillDoklad(d, "P001");
-                        addItem(static_cast<DokladDialog*>(d), Item{"Práce", "1", "1000", nullptr, false});
-                    }).closed)
+        EXPECT_TRUE(fillAndOk(dialog,
+                              [](wxDialog* d) {
+                                  fillDoklad(d, "P001");
+                                  addItem(static_cast<DokladDialog*>(d), Item{"Práce", "1", "1000", nullptr, false});
+                              })
+                        .closed)
             << m_prompts.transcript();
         const PlacenyDoklad doklad = placenyFaktura(*m_model, dialog.dokladId());
         EXPECT_EQ(writeUhrada(*m_model, doklad), "");
@@ -248,16 +250,16 @@ TEST_F(DokladDialogTest, ItemDialogRefusesQuantitiesAndShowsItsAmountsLive) {
         const char* pocet;
         const char* message;
     };
-    for (const Case& c : {Case{"0", "Počet nemůže být nulový"}, Case{"-1", "Počet nemůže být záporný"},
-                          Case{"1,5x", nullptr}}) {
+    for (const Case& c :
+         {Case{"0", "Počet nemůže být nulový"}, Case{"-1", "Počet nemůže být záporný"}, Case{"1,5x", nullptr}}) {
         m_prompts.clear();
         PolozkaDialog dialog(&doklad, form);
         typeText(&dialog, "popis", "Test");
         typeText(&dialog, "cenamj", "121");
         typeText(&dialog, "pocet", c.pocet);
         EXPECT_FALSE(dialog.save()) << c.pocet;
-        const wxString expected = c.message ? u8(c.message)
-                                            : lxformat::castkaZprava(u8("Počet"), c.pocet, lxformat::Chyba::SYNTAXE);
+        const wxString expected =
+            c.message ? u8(c.message) : lxformat::castkaZprava(u8("Počet"), c.pocet, lxformat::Chyba::SYNTAXE);
         EXPECT_EQ(m_prompts.transcript(), expected + "\n");
     }
     EXPECT_EQ(m_model->tableRows("fapolozka"), 0);
@@ -273,18 +275,18 @@ TEST_F(DokladDialogTest, ItemDialogRefusesQuantitiesAndShowsItsAmountsLive) {
 }
 
 TEST_F(DokladDialogTest, CounterpartyCompletionMatchesRegardlessOfAccentsAndLeavesTheName) {
-    const int capek = m_model->addKontaktSAdresou(Kontakt(-1, u8("Čapek a syn s.r.o."), "", "12345678", "CZ12345678",
-                                                          "", true, -1),
-                                                  Adresa(-1, u8("Dlouhá"), "5", "Brno", "60200", ""));
+    const int capek =
+        m_model->addKontaktSAdresou(Kontakt(-1, u8("Čapek a syn s.r.o."), "", "12345678", "CZ12345678", "", true, -1),
+                                    Adresa(-1, u8("Dlouhá"), "5", "Brno", "60200", ""));
     kontakt("Alfa");
     KontaktCompleter completer(*m_model);
     struct Case {
         const char* typed;
         std::vector<const char*> offered;
     };
-    for (const Case& c : {Case{"cap", {"Čapek a syn s.r.o., IČ 12345678"}}, Case{"SYN", {"Čapek a syn s.r.o., IČ 12345678"}},
-                          Case{"1234", {"Čapek a syn s.r.o., IČ 12345678"}}, Case{"al", {"Alfa"}},
-                          Case{"apek", {}}}) {
+    for (const Case& c :
+         {Case{"cap", {"Čapek a syn s.r.o., IČ 12345678"}}, Case{"SYN", {"Čapek a syn s.r.o., IČ 12345678"}},
+          Case{"1234", {"Čapek a syn s.r.o., IČ 12345678"}}, Case{"al", {"Alfa"}}, Case{"apek", {}}}) {
         wxArrayString offered;
         if (completer.Start(u8(c.typed)))
             for (wxString s = completer.GetNext(); !s.empty(); s = completer.GetNext()) offered.Add(s);

@@ -18,9 +18,7 @@ std::vector<int> sazbyPolozky(DbModel& model, int rok) {
     return sazby;
 }
 
-wxDateTime datumDanePolozky(const DokladForm& doklad) {
-    return doklad.duzp.IsValid() ? doklad.duzp : doklad.vystaveni;
-}
+wxDateTime datumDanePolozky(const DokladForm& doklad) { return doklad.duzp.IsValid() ? doklad.duzp : doklad.vystaveni; }
 
 wxString polozkaValidation(const PolozkaForm& form) {
     if (form.pocet == 0) return u8("Počet nemůže být nulový");
