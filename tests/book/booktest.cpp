@@ -2,7 +2,6 @@
 
 #include <wx/app.h>
 #include <wx/button.h>
-#include <wx/dialog.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -86,6 +85,27 @@ void typeText(wxWindow* dialog, const char* name, const wxString& text) {
         control->WriteText(text);
 }
 
+void choose(wxChoice* choice, int index) {
+    choice->SetSelection(index);
+    wxCommandEvent event(wxEVT_CHOICE, choice->GetId());
+    event.SetEventObject(choice);
+    event.SetInt(index);
+    choice->GetEventHandler()->ProcessEvent(event);
+}
+
+void screenshot(wxDialog& dialog, const char* name) {
+    wxString dir;
+    if (!wxGetEnv("EVIDA_SCREENSHOTS", &dir) || dir.empty()) return;
+    dialog.Move(0, 0);
+    dialog.Show();
+    for (int i = 0; i < 20; ++i) {
+        wxYield();
+        wxMilliSleep(25);
+    }
+    wxExecute("import -window root " + dir + "/" + name + ".png", wxEXEC_SYNC);
+    dialog.Hide();
+}
+
 void pressOk(wxDialog* dialog) {
     auto* ok = dynamic_cast<wxButton*>(dialog->FindWindow(wxID_OK));
     ASSERT_NE(ok, nullptr);
@@ -94,9 +114,6 @@ void pressOk(wxDialog* dialog) {
     ok->ProcessWindowEvent(event);
 }
 
-// Runs the dialog modally, as the journal page does; once its own event loop runs, `person`
-// fills it in and OK is pressed. A dialog that stays open is cancelled afterwards, so the
-// test goes on.
 Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {
     Outcome outcome;
     wxTheApp->CallAfter([&] {
@@ -111,10 +128,8 @@ Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person
     return outcome;
 }
 
-void choose(wxChoice* choice, int index) {
-    choice->SetSelection(index);
-    wxCommandEvent event(wxEVT_CHOICE, choice->GetId());
-    event.SetEventObject(choice);
-    event.SetInt(index);
-    choice->GetEventHandler()->ProcessEvent(event);
+int menaIndex(wxChoice* mena, const char* kod) {
+    for (unsigned i = 0; i < mena->GetCount(); ++i)
+        if (mena->GetString(i).StartsWith(kod)) return static_cast<int>(i);
+    return -1;
 }

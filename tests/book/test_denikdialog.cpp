@@ -24,12 +24,6 @@
 
 namespace {
 
-int menaIndex(wxChoice* mena, const char* kod) {
-    for (unsigned i = 0; i < mena->GetCount(); ++i)
-        if (mena->GetString(i).StartsWith(kod)) return static_cast<int>(i);
-    return -1;
-}
-
 // The ordinary fields of a cash entry; the test types the rest.
 void fillIncome(wxDialog* d, const char* castka = "100") {
     typeText(d, "popis", u8("Tržba"));
@@ -261,21 +255,6 @@ TEST_F(DenikDialog, AmountFieldKeepsItsDoubleUntilTheTextChanges) {
     kurz.ChangeValue("0");
     EXPECT_EQ(kurz.GetValue(&value), lxformat::Chyba::ROZSAH);
     EXPECT_EQ(kurz.zprava("Kurz"), lxformat::kurzZprava("Kurz", "0", lxformat::Chyba::ROZSAH));
-}
-
-// With EVIDA_SCREENSHOTS naming a directory, the dialog is shown and the screen saved there
-// as `name`.png, for a person to look at.
-static void screenshot(wxDialog& dialog, const char* name) {
-    wxString dir;
-    if (!wxGetEnv("EVIDA_SCREENSHOTS", &dir) || dir.empty()) return;
-    dialog.Move(0, 0);
-    dialog.Show();
-    for (int i = 0; i < 20; ++i) {
-        wxYield();
-        wxMilliSleep(25);
-    }
-    wxExecute("import -window root " + dir + "/" + name + ".png", wxEXEC_SYNC);
-    dialog.Hide();
 }
 
 TEST_F(DenikDialog, SwitchingToBankGrowsTheDialogForItsFields) {
