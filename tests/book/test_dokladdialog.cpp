@@ -173,13 +173,16 @@ TEST_F(DokladDialogTest, FieldThatDoesNotReadOrAnInvalidClassificationSavesNothi
         const char* typed;
         const char* focus;
         const char* message;
+        const char* dphdruh = nullptr;
     };
+    // "R1,2-C" (the travel-service regime) exists only from 2016 on.
     const Case cases[] = {
         {"splatnostText", "31.2.2024", "splatnostText",
          "Splatnost: „31.2.2024“ není platné datum.\nZadejte například 15.10.2026."},
         {"vystaveniText", "zítra", "vystaveniText",
          "Vystavení: „zítra“ není platné datum.\nZadejte například 15.10.2026."},
-        {"dphdruh", "R24", "dphdruh", "Členění DPH R24 není platné pro DUZP 01.06.2024"},
+        {"duzpText", "31.12.2015", "duzpText", "Členění DPH R1,2-C není platné pro DUZP 31.12.2015", "R1,2-C"},
+        {"dphdruh", "R99", "dphdruh", "Členění DPH R99 neexistuje"},
     };
     const int cislo = m_model->getRadaCislo("FV");
     for (const Case& c : cases) {
@@ -187,6 +190,7 @@ TEST_F(DokladDialogTest, FieldThatDoesNotReadOrAnInvalidClassificationSavesNothi
         FakturaDialog dialog(m_frame, true);
         const Outcome o = fillAndOk(dialog, [&](wxDialog* d) {
             fillDoklad(d, "P001");
+            if (c.dphdruh) dynamic_cast<wxComboBox*>(d->FindWindow("dphdruh"))->SetValue(c.dphdruh);
             if (auto* combo = dynamic_cast<wxComboBox*>(d->FindWindow(c.field)))
                 combo->SetValue(c.typed);
             else
@@ -203,6 +207,8 @@ TEST_F(DokladDialogTest, FieldThatDoesNotReadOrAnInvalidClassificationSavesNothi
     EXPECT_EQ(m_model->getRadaCislo("FV"), cislo);
 }
 
+// A change of what the payments were computed from (here the date of taxable supply) asks;
+// a new due date alone does not touch them.
 TEST_F(DokladDialogTest, ChangingAPaidInvoiceDeletesItsPaymentsOnlyWhenConfirmed) {
     const int id = zaplacenaFaktura();
     const int zaznamu = m_model->tableRows("denik");
@@ -211,13 +217,13 @@ TEST_F(DokladDialogTest, ChangingAPaidInvoiceDeletesItsPaymentsOnlyWhenConfirmed
         m_prompts.clear();
         m_prompts.answerQuestion(yes);
         FakturaDialog dialog(m_frame, true, id);
-        const Outcome o = fillAndOk(dialog, [](wxDialog* d) { typeText(d, "splatnostText", "30.9.2024"); });
+        const Outcome o = fillAndOk(dialog, [](wxDialog* d) { typeText(d, "duzpText", "30.5.2024"); });
         EXPECT_EQ(o.closed, yes);
         ASSERT_EQ(m_prompts.shown().size(), 1u);
         EXPECT_EQ(m_prompts.shown()[0].kind, "question");
         EXPECT_EQ(m_prompts.shown()[0].caption, "Dotaz");
         EXPECT_EQ(m_prompts.shown()[0].text, u8("Faktura byla změněna\nPoužít nové hodnoty?\n(Úhrady budou smazány)"));
-        EXPECT_EQ(m_model->getFaktura(id).splatnost().FormatISODate(), yes ? "2024-09-30" : "2024-06-15");
+        EXPECT_EQ(m_model->getFaktura(id).duzp().FormatISODate(), yes ? "2024-05-30" : "2024-06-01");
         EXPECT_EQ(m_model->someUhradaForFaktura(id), !yes);
         EXPECT_EQ(m_model->tableRows("denik"), yes ? 0 : zaznamu);
     }

@@ -89,7 +89,9 @@ TEST_F(PaymentDialog, RefusalsStoreNothing) {
         UhradaDialog dialog(m_frame, placenyFaktura(*m_model, id));
         EXPECT_FALSE(fillAndOk(dialog, c.person).closed);
         ASSERT_EQ(m_prompts.shown().size(), 1u);
-        if (c.message) EXPECT_EQ(m_prompts.shown()[0].text, u8(c.message));
+        if (c.message) {
+            EXPECT_EQ(m_prompts.shown()[0].text, u8(c.message));
+        }
     }
     EXPECT_EQ(m_model->tableRows("denik"), 0);
     EXPECT_EQ(m_model->tableRows("uhrada"), 0);

@@ -3,7 +3,9 @@
 #include <wx/artprov.h>
 
 #include "DenikTisk.h"
+#include "FakturaDialog.h"
 #include "PrijemVydejDialog.h"
+#include "ZavpohDialog.h"
 #include "UhradaDialog.h"
 #include "UhradyDialog.h"
 #include "bookshapes.h"
@@ -156,7 +158,30 @@ void uhradyDokladu(lxBookPage* page, int id) {
     dialog.ShowModal();
 }
 
+// Adding, editing and copying open the document dialog of the page's kind. A copy exists from
+// copyFaktura / copyZavPoh on; the dialog finishes it as a new document, and Cancel takes it
+// away again.
+void otevritDoklad(lxBookPage* page, int id, bool kopie) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const int nav = page->navigation();
+    if (kopie) {
+        id = isFakturaStranka(nav) ? model->copyFaktura(id) : model->copyZavPoh(id);
+        if (id <= 0) return;
+    }
+    if (isFakturaStranka(nav)) {
+        FakturaDialog dialog(page, nav == NAV_FAKTURY_VYDANE, id, kopie);
+        dialog.ShowModal();
+    } else {
+        ZavpohDialog dialog(page, nav == NAV_ZAVAZKY, id, kopie);
+        dialog.ShowModal();
+    }
+}
+
 void addDokladCommands(lxBookPage* page) {
+    page->setAction(BOOK_ADD, [page](int) { otevritDoklad(page, -1, false); });
+    page->setAction(BOOK_EDIT, [page](int id) { otevritDoklad(page, id, false); });
+    page->setAction(BOOK_COPY, [page](int id) { otevritDoklad(page, id, true); });
     page->setAction(BOOK_DELETE, [page](int id) { deleteDoklad(page, id); });
     page->addRowCommand(u8("Zaplatit"), u8("Zadat úhradu vybraného dokladu"), wxART_TICK_MARK,
                         [page](int id) { zaplatitDoklad(page, id); });
