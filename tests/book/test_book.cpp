@@ -107,7 +107,7 @@ TEST_F(BookTest, DeletingAPaymentRefreshesThePagesOfThePaidDocument) {
     });
     m_book->createPages();
     m_book->selectPage(NAV_FAKTURY_VYDANE);
-    EXPECT_EQ(m_book->page(NAV_FAKTURY_VYDANE)->list()->GetItemText(0, 8), "Uhrazeno");
+    EXPECT_EQ(m_book->page(NAV_FAKTURY_VYDANE)->list()->GetItemText(0, 9), "Uhrazeno");
 
     m_book->selectPage(NAV_DENIK);
     lxBookPage* journal = m_book->page(NAV_DENIK);
@@ -125,7 +125,7 @@ TEST_F(BookTest, DeletingAPaymentRefreshesThePagesOfThePaidDocument) {
     for (int nav : {NAV_FAKTURY_VYDANE, NAV_FAKTURY_PRIJATE, NAV_POHLEDAVKY, NAV_ZAVAZKY})
         EXPECT_TRUE(m_book->page(nav)->isStale()) << nav;
     m_book->selectPage(NAV_FAKTURY_VYDANE);
-    EXPECT_EQ(m_book->page(NAV_FAKTURY_VYDANE)->list()->GetItemText(0, 8), "Neuhrazeno");
+    EXPECT_EQ(m_book->page(NAV_FAKTURY_VYDANE)->list()->GetItemText(0, 9), "Neuhrazeno");
 }
 
 TEST_F(BookTest, InvoicePageShowsCounterpartyAndPaymentState) {
@@ -143,7 +143,7 @@ TEST_F(BookTest, InvoicePageShowsCounterpartyAndPaymentState) {
     const lxListCtrl* list = page->list();
     ASSERT_EQ(list->GetItemCount(), 3);
     EXPECT_EQ(list->GetItemText(0, 2), "Alfa");
-    const wxArrayString stav = column(list, 8);
+    const wxArrayString stav = column(list, 9);
     EXPECT_THAT(std::vector<wxString>(stav.begin(), stav.end()),
                 ElementsAre("Neuhrazeno", "Po splatnosti", "Uhrazeno"));
     EXPECT_EQ(page->footerText(), u8("Dokladů: 3    Neuhrazených: 2    Po splatnosti: 1"));

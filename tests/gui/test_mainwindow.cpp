@@ -16,6 +16,7 @@
 #include "book/lxbookpage.h"
 #include "book/lxlistctrl.h"
 #include "dbmodel.h"
+#include "fakturace/dokladform.h"
 #include "httpserver.h"
 #include "lxsettings.h"
 #include "lxutils.h"
@@ -59,6 +60,29 @@ wxTreeItemId findLeaf(wxTreeCtrl* tree, wxTreeItemId parent, const wxString& lab
 }
 
 using MainWindow = ShellTest;
+
+namespace {
+
+// With EVIDA_SHOTS naming a directory, the window's client area is saved there as `name`.png
+// for a person to look at.
+void saveShot(wxWindow* window, const char* name) {
+    wxString shots;
+    if (!wxGetEnv("EVIDA_SHOTS", &shots)) return;
+    window->Raise();
+    for (int i = 0; i < 30; ++i) {
+        wxYield();
+        wxMilliSleep(20);
+    }
+    const wxSize size = window->GetClientSize();
+    wxBitmap shot(size);
+    wxMemoryDC memory(shot);
+    wxClientDC screen(window);
+    memory.Blit(0, 0, size.x, size.y, &screen, 0, 0);
+    memory.SelectObject(wxNullBitmap);
+    shot.SaveFile(shots + "/" + name + ".png", wxBITMAP_TYPE_PNG);
+}
+
+}  // namespace
 
 TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
     addCompany("evida1.db", "Alfa", "1");
@@ -282,21 +306,54 @@ TEST_F(MainWindow, JournalFitsTheFirstStartWindow) {
     ASSERT_NE(toolbar, nullptr);
     EXPECT_LE(toolbar->GetBestSize().x, page->GetClientSize().x) << "the whole toolbar is in view";
 
-    wxString shots;
-    if (wxGetEnv("EVIDA_SHOTS", &shots)) {
-        m_frame->Raise();
-        for (int i = 0; i < 30; ++i) {
-            wxYield();
-            wxMilliSleep(20);
+    saveShot(m_frame, "journal");
+}
+
+// The issued invoices of the year in their three states, told apart in the list, with the
+// page's own commands in view.
+TEST_F(MainWindow, IssuedInvoicesShowTheirStateAndTheWholeToolbar) {
+    addCompany("evida1.db", "Alfa", "27074358");
+    ASSERT_TRUE(start()->isLoaded());
+    DbModel* model = DbModel::instance();
+    const struct {
+        double cena;
+        const char* splatnost;
+        double zaplaceno;
+    } doklady[] = {{12100, "2025-07-01", 12100}, {24200, "2025-07-01", 10000}, {3630, "2025-06-01", 0}};
+    for (const auto& d : doklady) {
+        DokladForm form = novyDoklad(*model, DruhDokladu::FAKTURA_VYDANA);
+        ASSERT_TRUE(model->addFaPolozka(FaPolozka(model->getLastId("fapolozka"), u8("Montáž"), "h", 1, d.cena, 0, 0,
+                                                  d.cena, false, form.id, -1, -1, false)));
+        form.protistrana = u8("Beta Trade s.r.o.");
+        form.splatnost = isoDay(d.splatnost);
+        ASSERT_EQ(ulozitDoklad(*model, form), wxString());
+        if (d.zaplaceno > 0) {
+            const PlacenyDoklad doklad = placenyFaktura(*model, form.id);
+            UhradaForm uhrada = novaUhrada(*model, doklad);
+            uhrada.castka = d.zaplaceno;
+            ASSERT_EQ(ulozitUhradu(*model, doklad, uhrada), wxString());
         }
-        const wxSize size = m_frame->GetClientSize();
-        wxBitmap shot(size);
-        wxMemoryDC memory(shot);
-        wxClientDC screen(m_frame);
-        memory.Blit(0, 0, size.x, size.y, &screen, 0, 0);
-        memory.SelectObject(wxNullBitmap);
-        shot.SaveFile(shots + "/journal.png", wxBITMAP_TYPE_PNG);
     }
+    m_frame->book()->selectPage(NAV_FAKTURY_VYDANE);
+    for (int i = 0; i < 10; ++i) wxYield();
+    lxBookPage* page = m_frame->book()->page(NAV_FAKTURY_VYDANE);
+    lxListCtrl* list = page->list();
+    ASSERT_EQ(list->GetItemCount(), 3);
+    int stav = -1;
+    for (int c = 0; c < list->GetColumnCount(); ++c) {
+        wxListItem column;
+        column.SetMask(wxLIST_MASK_TEXT);
+        list->GetColumn(c, column);
+        if (column.GetText() == "Stav") stav = c;
+    }
+    ASSERT_GE(stav, 0);
+    std::vector<wxString> stavy;
+    for (long i = 0; i < list->GetItemCount(); ++i) stavy.push_back(list->GetItemText(i, stav));
+    EXPECT_EQ(stavy, (std::vector<wxString>{u8("Uhrazeno"), u8("Částečně uhrazeno"), u8("Po splatnosti")}));
+    auto* toolbar = dynamic_cast<wxToolBar*>(page->GetChildren().GetFirst()->GetData());
+    ASSERT_NE(toolbar, nullptr);
+    EXPECT_LE(toolbar->GetBestSize().x, page->GetClientSize().x) << "the whole toolbar is in view";
+    saveShot(m_frame, "faktury");
 }
 
 TEST_F(MainWindow, ForcedCloseSkipsTheReminderAndTheWindowStoresItsGeometryAndLayout) {

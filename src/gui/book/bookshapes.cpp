@@ -88,31 +88,33 @@ wxDateTime today() {
     return datum.IsValid() ? datum.GetDateOnly() : wxDateTime::Today();
 }
 
-enum Stav { UHRAZENO = 0, NEUHRAZENO = 1, PO_SPLATNOSTI = 2 };
+enum Stav { UHRAZENO = 0, NEUHRAZENO = 1, CASTECNE = 2, PO_SPLATNOSTI = 3 };
 
 // The model's own rule of paid and overdue, on the row's summed payments.
 template <class Row>
 Stav stav(const Row& r) {
     if (isDokladUhrazen(r.celkem(), r.uhrazeno())) return UHRAZENO;
     if (isDokladPoSplatnosti(r.celkem(), r.uhrazeno(), r.splatnost(), today())) return PO_SPLATNOSTI;
-    return NEUHRAZENO;
+    return r.uhrazeno() > 0 ? CASTECNE : NEUHRAZENO;
 }
 
 wxString stavText(Stav s) {
-    static const char* const texts[] = {"Uhrazeno", "Neuhrazeno", "Po splatnosti"};
+    static const char* const texts[] = {"Uhrazeno", "Neuhrazeno", "Částečně uhrazeno", "Po splatnosti"};
     return u8(texts[s]);
 }
 
 // The columns after the number, shared by invoices and receivables/liabilities.
 template <class Row>
 void addDokladColumns(std::vector<lxColumn<Row>>& columns, const char* protistrana) {
-    columns.push_back(textColumn<Row>(protistrana, 200, &Row::protistrana));
-    columns.push_back(textColumn<Row>("Popis", 220, &Row::popis));
+    // Sized so that every column is in view in the window of the first start.
+    columns.push_back(textColumn<Row>(protistrana, 150, &Row::protistrana));
+    columns.push_back(textColumn<Row>("Popis", 105, &Row::popis));
     columns.push_back(dateColumn<Row>("Vystaveno", 85, &Row::vystaveni));
     columns.push_back(dateColumn<Row>("Splatnost", 85, &Row::splatnost));
-    columns.push_back(amountColumn<Row>("Celkem", 100, &Row::celkem));
-    columns.push_back(amountColumn<Row>("Uhrazeno", 100, &Row::uhrazeno));
-    columns.push_back(lxColumn<Row>{{u8("Stav"), 100, false},
+    columns.push_back(amountColumn<Row>("Celkem", 95, &Row::celkem));
+    columns.push_back(textColumn<Row>("Měna", 45, &Row::mena));
+    columns.push_back(amountColumn<Row>("Uhrazeno", 95, &Row::uhrazeno));
+    columns.push_back(lxColumn<Row>{{u8("Stav"), 135, false},
                                     [](const Row& r) { return stavText(stav(r)); },
                                     [](const Row& r) { return static_cast<double>(stav(r)); }});
 }
@@ -120,6 +122,17 @@ void addDokladColumns(std::vector<lxColumn<Row>>& columns, const char* protistra
 template <class Row>
 void addDokladFilter(lxPageShape<Row>& shape) {
     shape.date = [](const Row& r) { return r.vystaveni(); };
+    // Overdue documents in red, partly paid ones in brown, so the eye finds what to chase.
+    shape.colour = [](const Row& r) {
+        switch (stav(r)) {
+            case PO_SPLATNOSTI:
+                return wxColour(192, 0, 0);
+            case CASTECNE:
+                return wxColour(150, 90, 0);
+            default:
+                return wxColour();
+        }
+    };
     shape.choices.push_back({u8("Neuhrazené"), [](const Row& r) { return stav(r) != UHRAZENO; }});
     shape.choices.push_back({u8("Uhrazené"), [](const Row& r) { return stav(r) == UHRAZENO; }});
     shape.choices.push_back({u8("Po splatnosti"), [](const Row& r) { return stav(r) == PO_SPLATNOSTI; }});
@@ -211,8 +224,8 @@ lxPageShape<FakturaView> faktury(bool vydane) {
     lxPageShape<FakturaView> s;
     s.key = vydane ? "vydane" : "prijate";
     s.columns = {
-        textColumn<FakturaView>("Číslo", 90, &FakturaView::cislo),
-        lxColumn<FakturaView>{{u8("Typ"), 120, false},
+        textColumn<FakturaView>("Číslo", 80, &FakturaView::cislo),
+        lxColumn<FakturaView>{{u8("Typ"), 100, false},
                               [](const FakturaView& r) { return u8(r.typid() == 2 ? "Zálohová faktura" : "Faktura"); },
                               [](const FakturaView& r) { return static_cast<double>(r.typid()); }}};
     addDokladColumns(s.columns, vydane ? "Odběratel" : "Dodavatel");

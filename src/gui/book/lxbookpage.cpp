@@ -35,12 +35,11 @@ struct Command {
 const Command COMMANDS[] = {
     {wxID_ADD, "Přidat", "Přidat nový záznam", wxART_NEW},
     {wxID_EDIT, "Upravit", "Upravit vybraný záznam", wxART_EDIT},
-    {wxID_COPY, "Kopírovat", "Vytvořit kopii vybraného záznamu", wxART_COPY},
+    {wxID_COPY, "Kopie", "Vytvořit kopii vybraného záznamu", wxART_COPY},
     {wxID_DELETE, "Smazat", "Smazat vybraný záznam", wxART_DELETE},
     {0, nullptr, nullptr, wxART_OTHER},
     {wxID_PRINT, "Tisk", "Vytisknout zobrazené záznamy", wxART_PRINT},
-    {ID_EXPORT, "Export do CSV", "Uložit zobrazené záznamy do souboru CSV", wxART_FILE_SAVE_AS},
-    {0, nullptr, nullptr, wxART_OTHER},
+    {ID_EXPORT, "CSV", "Uložit zobrazené záznamy do souboru CSV", wxART_FILE_SAVE_AS},
     {ID_FILTER, "Filtr", "Zobrazit jen záznamy, které odpovídají filtru", wxART_FIND},
     {ID_FILTER_OFF, "Zrušit filtr", "Zobrazit všechny záznamy", wxART_CROSS_MARK},
 };
@@ -134,7 +133,6 @@ bool lxBookPage::run(lxBookAction action) {
 
 void lxBookPage::addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler) {
     if (m_rowCommands.size() >= ROW_COMMANDS_MAX) return;
-    if (m_rowCommands.empty()) m_toolbar->AddSeparator();
     const int id = ID_ROW_COMMAND + static_cast<int>(m_rowCommands.size());
     m_rowCommands.push_back({label, help, std::move(handler)});
     m_toolbar->AddTool(id, label, wxArtProvider::GetBitmapBundle(art, wxART_TOOLBAR, wxSize(16, 16)), help);

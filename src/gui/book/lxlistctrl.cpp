@@ -83,6 +83,14 @@ wxString lxListCtrl::OnGetItemText(long item, long column) const {
     return m_model->text(static_cast<size_t>(item), static_cast<int>(column));
 }
 
+wxItemAttr* lxListCtrl::OnGetItemAttr(long item) const {
+    if (item < 0) return nullptr;
+    const wxColour colour = m_model->textColour(static_cast<size_t>(item));
+    if (!colour.IsOk()) return nullptr;
+    m_attr.SetTextColour(colour);
+    return &m_attr;
+}
+
 void lxListCtrl::onColumnClick(wxListEvent& event) {
     const int column = event.GetColumn();
     if (column < 0 || column >= m_model->columnCount()) return;

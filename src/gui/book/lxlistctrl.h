@@ -36,6 +36,7 @@ class lxListCtrl : public wxListCtrl {
 
  protected:
     wxString OnGetItemText(long item, long column) const override;
+    wxItemAttr* OnGetItemAttr(long item) const override;
 
  private:
     // Shows the model's rows again; `id` and `row` are the selection before the model changed.
@@ -45,4 +46,5 @@ class lxListCtrl : public wxListCtrl {
     void onColumnDragged(wxListEvent& event);
 
     lxRowModel* m_model;
+    mutable wxItemAttr m_attr;
 };

@@ -5,6 +5,7 @@
 #pragma once
 
 #include <wx/arrstr.h>
+#include <wx/colour.h>
 #include <wx/datetime.h>
 #include <wx/string.h>
 
@@ -42,6 +43,9 @@ class lxRowModel {
     virtual std::size_t rowCount() const = 0;
     virtual std::size_t totalCount() const = 0;
     virtual wxString text(std::size_t row, int column) const = 0;
+    // The colour a shown row is written in (an overdue document in red); invalid for the
+    // list's own colour.
+    virtual wxColour textColour(std::size_t) const { return wxColour(); }
     // The record id of a shown row, and the shown row of an id (-1 when not shown).
     virtual int id(std::size_t row) const = 0;
     virtual long indexOfId(int id) const = 0;

@@ -49,6 +49,8 @@ struct lxPageShape {
     // How the filter's text matches a row, given the text folded by collation::searchFold;
     // unset: contained in a text column without regard to case.
     std::function<bool(const Row&, const wxString& folded)> search;
+    // The colour a row is written in; unset or invalid: the list's own.
+    std::function<wxColour(const Row&)> colour;
     // The order the page opens in: a column (-1 keeps the source's order) and its direction.
     int sortColumn = -1;
     bool sortAscending = true;
@@ -91,6 +93,11 @@ class lxTableModel : public lxRowModel {
     wxString text(std::size_t row, int column) const override {
         if (row >= m_visible.size() || column < 0 || column >= columnCount()) return wxString();
         return m_shape.columns[column].text(*m_visible[row]);
+    }
+
+    wxColour textColour(std::size_t row) const override {
+        if (row >= m_visible.size() || !m_shape.colour) return wxColour();
+        return m_shape.colour(*m_visible[row]);
     }
 
     int id(std::size_t row) const override {
