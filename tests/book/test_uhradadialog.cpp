@@ -5,6 +5,7 @@
 #include <wx/listctrl.h>
 
 #include "UhradaDialog.h"
+#include "NeuhrazeneDialog.h"
 #include "UhradyDialog.h"
 #include "book/lxbook.h"
 #include "book/lxbookpage.h"
@@ -50,6 +51,7 @@ TEST_F(PaymentDialog, TypedPartialPaymentsSplitAndSettle) {
         UhradaDialog dialog(m_frame, placenyFaktura(*m_model, id));
         EXPECT_EQ(dialog.GetTitle(), u8("Úhrada faktury"));
         EXPECT_EQ(field<wxTextCtrl>(&dialog, "castka")->GetValue(), u8("1\u00a0210,00"));
+        screenshot(dialog, "uhrada");
         const Outcome o = fillAndOk(dialog, [](wxDialog* d) {
             typeText(d, "castka", "605");
             typeText(d, "datumText", "15.5.");
@@ -147,4 +149,40 @@ TEST_F(PaymentDialog, PageCommandsPayListAndDelete) {
     ASSERT_TRUE(page->run(BOOK_DELETE));
     EXPECT_FALSE(m_model->hasFaktura(id));
     EXPECT_EQ(m_model->tableRows("denik"), 0);
+}
+
+// The unpaid documents of every year, overdue ones marked, paid from the list.
+TEST_F(PaymentDialog, UnpaidListOfAllYearsPaysTheChosenDocument) {
+    ASSERT_TRUE(m_model->addObdobi(Obdobi(2023, false)));
+    const int stara = faktura(true, 500, "2023-12-01");
+    m_model->db().ExecuteUpdate(wxString::Format("UPDATE faktura SET obdobirok=2023 WHERE id=%d", stara));
+    const int nova = invoice(1210);
+    const int zaplacena = invoice(242);
+    UhradaForm vse = novaUhrada(*m_model, placenyFaktura(*m_model, zaplacena));
+    ASSERT_EQ(ulozitUhradu(*m_model, placenyFaktura(*m_model, zaplacena), vse), wxString());
+    const int zavazek = m_model->getLastId("zavpoh");
+    ASSERT_TRUE(m_model->addZavPoh(ZavPoh(zavazek, 0, u8("Nájem"), 8000, "ZA0001", "", 2, -1, 1, 1, 4, 2024, true,
+                                          false, iso("2024-06-01"), iso("2024-06-01"), iso("2024-06-01"),
+                                          iso("2024-06-20"), -1, 1, 0)));
+    NeuhrazeneDialog dialog(m_frame);
+    ASSERT_EQ(dialog.rows(0).size(), 2u);
+    EXPECT_EQ(dialog.rows(0)[0].id, stara);  // the older year first
+    EXPECT_EQ(dialog.rows(0)[1].id, nova);
+    EXPECT_EQ(dialog.list(0)->GetItemText(0, 7), u8("Po splatnosti"));
+    EXPECT_EQ(dialog.list(0)->GetItemText(1, 7), u8("Neuhrazeno"));
+    ASSERT_EQ(dialog.rows(1).size(), 1u);
+    EXPECT_EQ(dialog.list(1)->GetItemText(0, 0), u8("Závazek"));
+    screenshot(dialog, "neuhrazene");
+    // Paying the old invoice in full takes it off the list.
+    dialog.list(0)->SetItemState(0, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
+    wxTheApp->CallAfter([] {
+        for (wxWindow* w : wxTopLevelWindows) {
+            auto* uhrada = dynamic_cast<UhradaDialog*>(w);
+            if (uhrada && uhrada->IsModal()) pressOk(uhrada);
+        }
+    });
+    dialog.zaplatit();
+    EXPECT_TRUE(m_model->isFakturaUhrazena(stara));
+    ASSERT_EQ(dialog.rows(0).size(), 1u);
+    EXPECT_EQ(dialog.rows(0)[0].id, nova);
 }
