@@ -47,19 +47,20 @@ wxString makeCompany(int years) {
     companysetup::createPlaceholderCompany(model, path);
     const int last = model.currentRok();
     wxSQLite3Database& db = model.db();
+    {  // the statements end with this block, so that the file closes
     wxSQLite3Transaction tx(&db);
     for (int k = 1; k <= 200; ++k)
-        db.ExecuteUpdate(wxString::Format("INSERT INTO kontakt(id,nazev,public,adresaid) VALUES(%d,'Odběratel %d',1,NULL)",
+        db.ExecuteUpdate(wxString::Format("INSERT INTO kontakt(id,nazev,public,adresaid) VALUES(%d,'Odberatel %d',1,0)",
                                           k, k));
     wxSQLite3Statement fa = db.PrepareStatement(
         "INSERT INTO faktura(id,protistranaid,popis,celkem,cislo,vs,typid,uhradaid,menaid,predkontaceid,obdobirok,"
-        "vydana,platce,vystaveni,duzp,dppd,splatnost,kurz) VALUES(?,?,'Služby',?,?,?,1,2,?,1,?,?,1,?,?,?,?,?)");
+        "vydana,platce,vystaveni,duzp,dppd,splatnost,kurz) VALUES(?,?,'Sluzby',?,?,?,1,2,?,1,?,?,1,?,?,?,?,?)");
     wxSQLite3Statement po = db.PrepareStatement(
         "INSERT INTO fapolozka(popis,mj,pocet,cenamj,sazbaid,dph,celkem,bezdph,fakturaid,zavpohid,zasobaid,"
-        "zaokrouhleni) VALUES('Práce','h',2,?,1,?,?,0,?,NULL,NULL,0)");
+        "zaokrouhleni) VALUES('Prace','h',2,?,1,?,?,0,?,NULL,NULL,0)");
     wxSQLite3Statement de = db.PrepareStatement(
         "INSERT INTO denik(id,datum,cislo,popis,castka,castkacizi,kurz,reference,pausal,menaid,predkontaceid,"
-        "pokladnaid,bankaid,vypis,protistranaid,obdobirok) VALUES(?,?,?,'Úhrada',?,0,1,'',0,1,1,NULL,1,1,0,?)");
+        "pokladnaid,bankaid,vypis,protistranaid,obdobirok) VALUES(?,?,?,'Uhrada',?,0,1,'',0,1,1,NULL,1,1,0,?)");
     wxSQLite3Statement uh =
         db.PrepareStatement("INSERT INTO uhrada(castka,denikid,fakturaid,zavpohid,obdobirok) VALUES(?,?,?,NULL,?)");
     int id = 0, denikId = 0;
@@ -117,6 +118,7 @@ wxString makeCompany(int years) {
         }
     }
     tx.Commit();
+    }
     model.closeDatabase();
     // Opening once adds whatever the program adds to a file it opens (its indexes).
     DbModel opened;
