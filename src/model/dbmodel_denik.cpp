@@ -113,9 +113,12 @@ bool DbModel::updateDenik(const Denik& d) {
     try {
         WriteTransaction tx(m_db);
         if (!recordio::update(m_db, withExistingRegisters(*this, d))) return false;
-        // A payment edited in the journal keeps the amount it settles in step with itself.
+        // A payment edited in the journal keeps the amount it settles in step with itself. The
+        // payment rows count in the paid document's currency, which is the entry's currency: the
+        // home amount for a home entry, the foreign amount for a foreign one (the home amount
+        // would pay a euro invoice twenty-five times over).
         wxSQLite3Statement st = m_db.PrepareStatement(sync);
-        recordio::bindValues(st, d.castka(), d.id());
+        recordio::bindValues(st, d.menaid() > 1 ? d.castkacizi() : d.castka(), d.id());
         st.ExecuteUpdate();
         tx.commit();
         return true;

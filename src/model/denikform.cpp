@@ -24,38 +24,39 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
 }  // namespace
 
+wxString registrZprava(DbModel& model, bool banka, const wxString& text) {
+    const wxString registr = trimmed(text);
+    if (registr.empty()) return banka ? u8("Bankovní účet nemůže být prázdný") : u8("Pokladna nemůže být prázdná");
+    const int id = banka ? model.getBankaIdByZkratka(registr) : model.getPokladnaIdByZkratka(registr);
+    if (id < 0) return wxString::Format(banka ? u8("Bankovní účet %s neexistuje") : u8("Pokladna %s neexistuje"), registr);
+    return wxString();
+}
+
+wxString predkontaceZprava(DbModel& model, const wxString& text, bool prijem) {
+    const wxString predkontace = trimmed(text);
+    if (predkontace.empty()) return u8("Předkontace nemůže být prázdná");
+    const int id = model.getPredkontaceIdByZkratka(predkontace);
+    if (id < 0) return wxString::Format(u8("Předkontace %s neexistuje"), predkontace);
+    // The pre-posting decides the direction and so the series and the sign in the balances:
+    // an expense code typed into the income dialog would book an expense numbered as income.
+    if (model.isPredkontacePrijem(id) != prijem) {
+        return wxString::Format(prijem ? u8("Předkontace %s je výdajová, zadejte příjmovou")
+                                       : u8("Předkontace %s je příjmová, zadejte výdajovou"),
+                                predkontace);
+    }
+    return wxString();
+}
+
 wxString denikValidation(DbModel& model, const DenikForm& form, DenikPole* pole) {
     auto fail = [pole](DenikPole p, const wxString& message) {
         if (pole) *pole = p;
         return message;
     };
     if (pole) *pole = DenikPole::ZADNE;
-    const wxString registr = trimmed(form.registr);
-    if (registr.empty()) {
-        return fail(DenikPole::REGISTR,
-                    form.banka ? u8("Bankovní účet nemůže být prázdný") : u8("Pokladna nemůže být prázdná"));
-    }
-    const int registrId = form.banka ? model.getBankaIdByZkratka(registr) : model.getPokladnaIdByZkratka(registr);
-    if (registrId < 0) {
-        return fail(
-            DenikPole::REGISTR,
-            wxString::Format(form.banka ? u8("Bankovní účet %s neexistuje") : u8("Pokladna %s neexistuje"), registr));
-    }
-    const wxString predkontace = trimmed(form.predkontace);
-    if (predkontace.empty()) return fail(DenikPole::PREDKONTACE, u8("Předkontace nemůže být prázdná"));
-    const int predkontaceId = model.getPredkontaceIdByZkratka(predkontace);
-    if (predkontaceId < 0) {
-        return fail(DenikPole::PREDKONTACE, wxString::Format(u8("Předkontace %s neexistuje"), predkontace));
-    }
-    // The pre-posting decides the direction and so the series and the sign in the balances:
-    // an expense code typed into the income dialog would book an expense numbered as income.
-    const bool prijem = model.isPredkontacePrijem(predkontaceId);
-    if (prijem != form.prijem) {
-        return fail(DenikPole::PREDKONTACE,
-                    wxString::Format(prijem ? u8("Předkontace %s je příjmová, zadejte výdajovou")
-                                            : u8("Předkontace %s je výdajová, zadejte příjmovou"),
-                                     predkontace));
-    }
+    wxString zprava = registrZprava(model, form.banka, form.registr);
+    if (!zprava.empty()) return fail(DenikPole::REGISTR, zprava);
+    zprava = predkontaceZprava(model, form.predkontace, form.prijem);
+    if (!zprava.empty()) return fail(DenikPole::PREDKONTACE, zprava);
     if (!form.datum.IsValid()) return fail(DenikPole::DATUM, lxformat::datumZprava(u8("Datum"), wxString()));
     const int rok = model.currentRok();
     if (form.datum.GetYear() != rok) {

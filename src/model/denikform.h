@@ -47,6 +47,12 @@ enum class DenikPole { ZADNE, DATUM, CISLO, REGISTR, PREDKONTACE, CASTKA, CASTKA
 // another entry of that year).
 wxString denikValidation(DbModel& model, const DenikForm& form, DenikPole* pole = nullptr);
 
+// The checks of a register or account code and of a pre-posting code that every document
+// form shares: the message to show, or empty when the code is good. A pre-posting must be of
+// the form's direction (`prijem`).
+wxString registrZprava(DbModel& model, bool banka, const wxString& registr);
+wxString predkontaceZprava(DbModel& model, const wxString& predkontace, bool prijem);
+
 // The lowest balance a cash register reaches from `datum` on when `zmena` is booked on that
 // day, given its movements per day (oldest first, as pokladnaPohybyPoDnech gives them).
 double nejnizsiStav(const std::vector<DbModel::DenniPohyb>& pohyby, const wxDateTime& datum, double zmena);

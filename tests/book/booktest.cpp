@@ -1,6 +1,7 @@
 #include "booktest.h"
 
 #include <wx/app.h>
+#include <wx/button.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -90,4 +91,45 @@ void choose(wxChoice* choice, int index) {
     event.SetEventObject(choice);
     event.SetInt(index);
     choice->GetEventHandler()->ProcessEvent(event);
+}
+
+void screenshot(wxDialog& dialog, const char* name) {
+    wxString dir;
+    if (!wxGetEnv("EVIDA_SCREENSHOTS", &dir) || dir.empty()) return;
+    dialog.Move(0, 0);
+    dialog.Show();
+    for (int i = 0; i < 20; ++i) {
+        wxYield();
+        wxMilliSleep(25);
+    }
+    wxExecute("import -window root " + dir + "/" + name + ".png", wxEXEC_SYNC);
+    dialog.Hide();
+}
+
+void pressOk(wxDialog* dialog) {
+    auto* ok = dynamic_cast<wxButton*>(dialog->FindWindow(wxID_OK));
+    ASSERT_NE(ok, nullptr);
+    wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
+    event.SetEventObject(ok);
+    ok->ProcessWindowEvent(event);
+}
+
+Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {
+    Outcome outcome;
+    wxTheApp->CallAfter([&] {
+        person(&dialog);
+        pressOk(&dialog);
+        if (dialog.IsModal()) {
+            outcome.focus = wxWindow::FindFocus();
+            dialog.EndModal(wxID_CANCEL);
+        }
+    });
+    outcome.closed = dialog.ShowModal() == wxID_OK;
+    return outcome;
+}
+
+int menaIndex(wxChoice* mena, const char* kod) {
+    for (unsigned i = 0; i < mena->GetCount(); ++i)
+        if (mena->GetString(i).StartsWith(kod)) return static_cast<int>(i);
+    return -1;
 }

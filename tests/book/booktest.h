@@ -6,7 +6,9 @@
 #include <gtest/gtest.h>
 #include <wx/frame.h>
 #include <wx/choice.h>
+#include <wx/dialog.h>
 
+#include <functional>
 #include <memory>
 
 #include "dbmodel.h"
@@ -34,6 +36,23 @@ Control* field(wxWindow* parent, const char* name) {
 void typeText(wxWindow* dialog, const char* name, const wxString& text);
 // Picks an item of a choice as the user would: the choice tells the dialog.
 void choose(wxChoice* choice, int index);
+// The index of the currency `kod` in a currency choice, -1 when it is not offered.
+int menaIndex(wxChoice* mena, const char* kod);
+// Presses the dialog's OK button as a click does.
+void pressOk(wxDialog* dialog);
+// What happened when OK was pressed: whether the dialog closed, and where the focus was
+// left when it stayed open.
+struct Outcome {
+    bool closed = false;
+    wxWindow* focus = nullptr;
+};
+// Runs the dialog modally, as a book page does; once its own event loop runs, `person`
+// fills it in and OK is pressed. A dialog that stays open is cancelled afterwards, so the
+// test goes on.
+Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person);
+// With EVIDA_SCREENSHOTS naming a directory, the dialog is shown and the screen saved there
+// as `name`.png, for a person to look at.
+void screenshot(wxDialog& dialog, const char* name);
 
 class BookTest : public ::testing::Test {
  protected:

@@ -24,44 +24,6 @@
 
 namespace {
 
-int menaIndex(wxChoice* mena, const char* kod) {
-    for (unsigned i = 0; i < mena->GetCount(); ++i)
-        if (mena->GetString(i).StartsWith(kod)) return static_cast<int>(i);
-    return -1;
-}
-
-void pressOk(wxDialog* dialog) {
-    auto* ok = dynamic_cast<wxButton*>(dialog->FindWindow(wxID_OK));
-    ASSERT_NE(ok, nullptr);
-    wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
-    event.SetEventObject(ok);
-    ok->ProcessWindowEvent(event);
-}
-
-// What happened when OK was pressed: whether the dialog closed, and where the focus was
-// left when it stayed open.
-struct Outcome {
-    bool closed = false;
-    wxWindow* focus = nullptr;
-};
-
-// Runs the dialog modally, as the journal page does; once its own event loop runs, `person`
-// fills it in and OK is pressed. A dialog that stays open is cancelled afterwards, so the
-// test goes on.
-Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {
-    Outcome outcome;
-    wxTheApp->CallAfter([&] {
-        person(&dialog);
-        pressOk(&dialog);
-        if (dialog.IsModal()) {
-            outcome.focus = wxWindow::FindFocus();
-            dialog.EndModal(wxID_CANCEL);
-        }
-    });
-    outcome.closed = dialog.ShowModal() == wxID_OK;
-    return outcome;
-}
-
 // The ordinary fields of a cash entry; the test types the rest.
 void fillIncome(wxDialog* d, const char* castka = "100") {
     typeText(d, "popis", u8("Tržba"));
@@ -293,21 +255,6 @@ TEST_F(DenikDialog, AmountFieldKeepsItsDoubleUntilTheTextChanges) {
     kurz.ChangeValue("0");
     EXPECT_EQ(kurz.GetValue(&value), lxformat::Chyba::ROZSAH);
     EXPECT_EQ(kurz.zprava("Kurz"), lxformat::kurzZprava("Kurz", "0", lxformat::Chyba::ROZSAH));
-}
-
-// With EVIDA_SCREENSHOTS naming a directory, the dialog is shown and the screen saved there
-// as `name`.png, for a person to look at.
-static void screenshot(wxDialog& dialog, const char* name) {
-    wxString dir;
-    if (!wxGetEnv("EVIDA_SCREENSHOTS", &dir) || dir.empty()) return;
-    dialog.Move(0, 0);
-    dialog.Show();
-    for (int i = 0; i < 20; ++i) {
-        wxYield();
-        wxMilliSleep(25);
-    }
-    wxExecute("import -window root " + dir + "/" + name + ".png", wxEXEC_SYNC);
-    dialog.Hide();
 }
 
 TEST_F(DenikDialog, SwitchingToBankGrowsTheDialogForItsFields) {

@@ -1,8 +1,14 @@
 #include "bookpages.h"
 
+#include <wx/artprov.h>
+
 #include "DenikTisk.h"
 #include "DokladTisk.h"
+#include "FakturaDialog.h"
 #include "PrijemVydejDialog.h"
+#include "ZavpohDialog.h"
+#include "UhradaDialog.h"
+#include "UhradyDialog.h"
 #include "bookshapes.h"
 #include "denikexport.h"
 #include "lxcsv.h"
@@ -96,6 +102,101 @@ bool exportDenik(lxBookPage* page, const wxString& path, lxcsv::Kodovani kodovan
         path, denikexport::header(), rows.size(), [&rows](size_t r) { return rows[r]; }, kodovani, error);
 }
 
+// --- invoices, receivables and liabilities ----------------------------------------------
+
+DruhDokladu druhStranky(int nav) {
+    switch (nav) {
+        case NAV_FAKTURY_PRIJATE:
+            return DruhDokladu::FAKTURA_PRIJATA;
+        case NAV_POHLEDAVKY:
+            return DruhDokladu::POHLEDAVKA;
+        case NAV_ZAVAZKY:
+            return DruhDokladu::ZAVAZEK;
+        default:
+            return DruhDokladu::FAKTURA_VYDANA;
+    }
+}
+
+bool isFakturaStranka(int nav) { return nav == NAV_FAKTURY_VYDANE || nav == NAV_FAKTURY_PRIJATE; }
+
+PlacenyDoklad placenyNaStrance(DbModel& model, int nav, int id) {
+    return isFakturaStranka(nav) ? placenyFaktura(model, id) : placenyZavPoh(model, id);
+}
+
+// Deleting a document takes its items and stock movements; a document with payments also
+// takes the journal entries that paid it, so the user is told so and asked again.
+void deleteDoklad(lxBookPage* page, int id) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const int nav = page->navigation();
+    const PlacenyDoklad doklad = placenyNaStrance(*model, nav, id);
+    if (!doklad.isValid()) return;
+    static const char* const otazky[] = {"Opravdu smazat fakturu\n%s?", "Opravdu smazat fakturu\n%s?",
+                                         "Opravdu smazat pohledávku\n%s?", "Opravdu smazat závazek\n%s?"};
+    if (!prompts().question(wxString::Format(u8(otazky[static_cast<int>(doklad.druh)]), doklad.cislo), u8("Dotaz"),
+                            page))
+        return;
+    const bool uhrady = isFakturaStranka(nav) ? model->someUhradaForFaktura(id) : model->someUhradaForZavpoh(id);
+    if (uhrady &&
+        !prompts().question(
+            wxString::Format(u8("Doklad %s má úhrady.\nSmazat ho i s úhradami a jejich záznamy v deníku?"), doklad.cislo),
+            u8("Dotaz"), page))
+        return;
+    if (isFakturaStranka(nav))
+        model->deleteFaktura(id);
+    else
+        model->deleteZavPoh(id);
+}
+
+void zaplatitDoklad(lxBookPage* page, int id) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const PlacenyDoklad doklad = placenyNaStrance(*model, page->navigation(), id);
+    if (!doklad.isValid()) return;
+    if (doklad.zbyva() <= 0 &&
+        !prompts().question(wxString::Format(u8("Doklad %s je už uhrazen.\nPřesto zadat další úhradu?"), doklad.cislo),
+                            u8("Dotaz"), page))
+        return;
+    UhradaDialog dialog(page, doklad);
+    dialog.ShowModal();
+}
+
+void uhradyDokladu(lxBookPage* page, int id) {
+    UhradyDialog dialog(page, druhStranky(page->navigation()), id);
+    dialog.ShowModal();
+}
+
+// Adding, editing and copying open the document dialog of the page's kind. A copy exists from
+// copyFaktura / copyZavPoh on; the dialog finishes it as a new document, and Cancel takes it
+// away again.
+void otevritDoklad(lxBookPage* page, int id, bool kopie) {
+    DbModel* model = openModel();
+    if (!model) return;
+    const int nav = page->navigation();
+    if (kopie) {
+        id = isFakturaStranka(nav) ? model->copyFaktura(id) : model->copyZavPoh(id);
+        if (id <= 0) return;
+    }
+    if (isFakturaStranka(nav)) {
+        FakturaDialog dialog(page, nav == NAV_FAKTURY_VYDANE, id, kopie);
+        dialog.ShowModal();
+    } else {
+        ZavpohDialog dialog(page, nav == NAV_ZAVAZKY, id, kopie);
+        dialog.ShowModal();
+    }
+}
+
+void addDokladCommands(lxBookPage* page) {
+    page->setAction(BOOK_ADD, [page](int) { otevritDoklad(page, -1, false); });
+    page->setAction(BOOK_EDIT, [page](int id) { otevritDoklad(page, id, false); });
+    page->setAction(BOOK_COPY, [page](int id) { otevritDoklad(page, id, true); });
+    page->setAction(BOOK_DELETE, [page](int id) { deleteDoklad(page, id); });
+    page->addRowCommand(u8("Zaplatit"), u8("Zadat úhradu vybraného dokladu"), wxART_TICK_MARK,
+                        [page](int id) { zaplatitDoklad(page, id); });
+    page->addRowCommand(u8("Úhrady"), u8("Zobrazit úhrady vybraného dokladu"), wxART_LIST_VIEW,
+                        [page](int id) { uhradyDokladu(page, id); });
+}
+
 void deleteJizda(lxBookPage* page, int id) {
     DbModel* model = openModel();
     if (!model) return;
@@ -165,11 +266,13 @@ lxBookPage* create(wxWindow* parent, int nav) {
         case NAV_FAKTURY_VYDANE:
         case NAV_FAKTURY_PRIJATE:
             created = page(parent, nav, bookshapes::faktury(nav == NAV_FAKTURY_VYDANE));
+            addDokladCommands(created);
             created->setPrintAction([created] { printDoklady(created); });
             break;
         case NAV_POHLEDAVKY:
         case NAV_ZAVAZKY:
             created = page(parent, nav, bookshapes::zavpoh(nav == NAV_ZAVAZKY));
+            addDokladCommands(created);
             created->setPrintAction([created] { printDoklady(created); });
             break;
         case NAV_MAJETEK:

@@ -1,5 +1,6 @@
 #include "homepage.h"
 
+#include "NeuhrazeneDialog.h"
 #include "dbmodel.h"
 #include "printchoice.h"
 #include "stavuctuprint.h"
@@ -47,6 +48,7 @@ wxString plainText(const wxString& html) {
 
 const char* const LINK_PREHLED = "tisk:prehled";
 const char* const LINK_STAV_UCTU = "tisk:stavuctu";
+const char* const LINK_NEUHRAZENE = "doklady:neuhrazene";
 
 DbModel* openModel() {
     DbModel* model = DbModel::instance();
@@ -82,6 +84,9 @@ wxString HomePage::html(DbModel* model) {
     for (const auto& row : cells)
         page += "<tr><td valign=\"top\" width=\"260\">" + row[0] + "</td><td valign=\"top\">" + row[1] + "</td></tr>";
     page += "</table>";
+    // The unpaid documents of every year, to pay or to chase.
+    if (model->someNeuhrazenaFakturaOrZavpoh())
+        page += wxString::Format(wxString::FromUTF8("<p><a href=\"%s\">Neuhrazené doklady</a></p>"), LINK_NEUHRAZENE);
     page += wxString::Format(wxString::FromUTF8("<p><a href=\"%s\">Tisk přehledu</a> &nbsp; "
                                                 "<a href=\"%s\">Tisk stavu pokladen a účtů</a></p>"),
                              LINK_PREHLED, LINK_STAV_UCTU);
@@ -123,6 +128,10 @@ void HomePage::OnLinkClicked(const wxHtmlLinkInfo& link) {
         printPrehled();
     else if (link.GetHref() == LINK_STAV_UCTU)
         printStavUctu();
+    else if (link.GetHref() == LINK_NEUHRAZENE && openModel()) {
+        NeuhrazeneDialog dialog(this);
+        dialog.ShowModal();
+    }
     else
         wxHtmlWindow::OnLinkClicked(link);
 }

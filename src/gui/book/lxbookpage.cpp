@@ -18,7 +18,9 @@
 
 namespace {
 
-enum { ID_EXPORT = wxID_HIGHEST + 200, ID_FILTER, ID_FILTER_OFF };
+enum { ID_EXPORT = wxID_HIGHEST + 200, ID_FILTER, ID_FILTER_OFF, ID_ROW_COMMAND };
+// Room for the page's own row commands after ID_ROW_COMMAND.
+const int ROW_COMMANDS_MAX = 16;
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
@@ -130,6 +132,25 @@ bool lxBookPage::run(lxBookAction action) {
     return true;
 }
 
+void lxBookPage::addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler) {
+    if (m_rowCommands.size() >= ROW_COMMANDS_MAX) return;
+    if (m_rowCommands.empty()) m_toolbar->AddSeparator();
+    const int id = ID_ROW_COMMAND + static_cast<int>(m_rowCommands.size());
+    m_rowCommands.push_back({label, help, std::move(handler)});
+    m_toolbar->AddTool(id, label, wxArtProvider::GetBitmapBundle(art, wxART_TOOLBAR, wxSize(16, 16)), help);
+    m_toolbar->Realize();
+    updateTools();
+}
+
+bool lxBookPage::runRowCommand(size_t index) {
+    const int id = m_list->selectedId();
+    if (index >= m_rowCommands.size() || id < 0) return false;
+    const Action handler = m_rowCommands[index].handler;
+    handler(id);
+    updateTools();
+    return true;
+}
+
 void lxBookPage::editFilter() {
     lxFilterDialog dialog(this, wxString::Format(u8("Filtr: %s"), m_title), m_rows->filter(), m_rows->hasDateFilter(),
                           m_rows->filterChoices());
@@ -218,7 +239,10 @@ void lxBookPage::onCommand(wxCommandEvent& event) {
             setFilter(lxFilter());
             break;
         default:
-            event.Skip();
+            if (event.GetId() >= ID_ROW_COMMAND && event.GetId() < ID_ROW_COMMAND + ROW_COMMANDS_MAX)
+                runRowCommand(static_cast<size_t>(event.GetId() - ID_ROW_COMMAND));
+            else
+                event.Skip();
     }
 }
 
@@ -249,6 +273,9 @@ wxMenu* lxBookPage::createMenu() const {
             menu->Append(c.id, u8(c.label), u8(c.help));
         }
     }
+    if (!m_rowCommands.empty()) menu->AppendSeparator();
+    for (size_t i = 0; i < m_rowCommands.size(); ++i)
+        menu->Append(ID_ROW_COMMAND + static_cast<int>(i), m_rowCommands[i].label, m_rowCommands[i].help);
     enableCommands([menu](int id, bool enable) { menu->Enable(id, enable); });
     return menu;
 }
@@ -267,6 +294,8 @@ void lxBookPage::enableCommands(const std::function<void(int id, bool enable)>& 
             enable(c.id, m_rows->rowCount() > 0);
         }
     }
+    for (size_t i = 0; i < m_rowCommands.size(); ++i)
+        enable(ID_ROW_COMMAND + static_cast<int>(i), m_list->selectedId() >= 0);
 }
 
 void lxBookPage::updateTools() {

@@ -9,6 +9,7 @@
 #include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 #include "lxcsv.h"
 #include "lxrowmodel.h"
@@ -47,6 +48,12 @@ class lxBookPage : public wxPanel {
     // Runs an action on the selected row; false when it cannot run.
     bool run(lxBookAction action);
 
+    // A command of this page on the selected row ("Zaplatit", "Úhrady"): a tool at the end of
+    // the toolbar and an item of the context menu, enabled while a row is selected.
+    void addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler);
+    // Runs the n-th such command on the selected row; false when no row is selected.
+    bool runRowCommand(size_t index);
+
     // Shows the filter dialog, or applies a filter directly.
     void editFilter();
     void setFilter(const lxFilter& filter);
@@ -79,6 +86,12 @@ class lxBookPage : public wxPanel {
     wxString m_title;
     std::unique_ptr<lxRowModel> m_rows;
     std::array<Action, BOOK_ACTIONS> m_actions;
+    struct RowCommand {
+        wxString label;
+        wxString help;
+        Action handler;
+    };
+    std::vector<RowCommand> m_rowCommands;
     std::function<void()> m_printAction;
     CsvExport m_csvExport;
     bool m_stale = true;

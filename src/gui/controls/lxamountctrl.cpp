@@ -43,5 +43,6 @@ lxformat::Chyba lxAmountCtrl::parse(double* value) const {
 }
 
 wxString lxAmountCtrl::format(double value) const {
+    if (m_druh == MNOZSTVI) return lxformat::formatMnozstvi(value);
     return m_druh == KURZ ? lxformat::formatKurz(value) : lxformat::formatCastka(value);
 }

@@ -2,7 +2,8 @@
 // double it was given and shows it in the Czech form (decimal comma); as long as nobody changes
 // the text, GetValue gives back that very double, so opening a document and pressing OK never
 // rounds what is stored. Only text that differs from what the field showed is read, through the
-// one parser of its kind (lxformat::parseCastka or parseKurz).
+// one parser of its kind (lxformat::parseCastka or parseKurz). A quantity reads as an amount
+// and shows with three decimals (formatMnozstvi).
 #pragma once
 
 #include <wx/textctrl.h>
@@ -11,13 +12,13 @@
 
 class lxAmountCtrl : public wxTextCtrl {
  public:
-    enum Druh { CASTKA, KURZ };
+    enum Druh { CASTKA, KURZ, MNOZSTVI };
 
     lxAmountCtrl(wxWindow* parent, Druh druh, const wxString& name, int width = 150);
 
     using wxTextCtrl::GetValue;
     using wxTextCtrl::SetValue;
-    // Shows the value (formatCastka or formatKurz) and keeps it exactly; sends no change event.
+    // Shows the value (formatCastka, formatKurz or formatMnozstvi) and keeps it exactly; sends no change event.
     void SetValue(double value);
     // The kept value while the text is the one shown, else the text read by the parser; the
     // value is left alone when the text does not read.
