@@ -48,76 +48,76 @@ wxString makeCompany(int years) {
     const int last = model.currentRok();
     wxSQLite3Database& db = model.db();
     {  // the statements end with this block, so that the file closes
-    wxSQLite3Transaction tx(&db);
-    for (int k = 1; k <= 200; ++k)
-        db.ExecuteUpdate(wxString::Format("INSERT INTO kontakt(id,nazev,public,adresaid) VALUES(%d,'Odberatel %d',1,0)",
-                                          k, k));
-    wxSQLite3Statement fa = db.PrepareStatement(
-        "INSERT INTO faktura(id,protistranaid,popis,celkem,cislo,vs,typid,uhradaid,menaid,predkontaceid,obdobirok,"
-        "vydana,platce,vystaveni,duzp,dppd,splatnost,kurz) VALUES(?,?,'Sluzby',?,?,?,1,2,?,1,?,?,1,?,?,?,?,?)");
-    wxSQLite3Statement po = db.PrepareStatement(
-        "INSERT INTO fapolozka(popis,mj,pocet,cenamj,sazbaid,dph,celkem,bezdph,fakturaid,zavpohid,zasobaid,"
-        "zaokrouhleni) VALUES('Prace','h',2,?,1,?,?,0,?,NULL,NULL,0)");
-    wxSQLite3Statement de = db.PrepareStatement(
-        "INSERT INTO denik(id,datum,cislo,popis,castka,castkacizi,kurz,reference,pausal,menaid,predkontaceid,"
-        "pokladnaid,bankaid,vypis,protistranaid,obdobirok) VALUES(?,?,?,'Uhrada',?,0,1,'',0,1,1,NULL,1,1,0,?)");
-    wxSQLite3Statement uh =
-        db.PrepareStatement("INSERT INTO uhrada(castka,denikid,fakturaid,zavpohid,obdobirok) VALUES(?,?,?,NULL,?)");
-    int id = 0, denikId = 0;
-    auto platba = [&](double castka, const wxString& datum, int faktura, int rok) {
-        ++denikId;
-        de.Bind(1, denikId);
-        de.Bind(2, datum);
-        de.Bind(3, wxString::Format("BP%06d", denikId));
-        de.Bind(4, castka);
-        de.Bind(5, rok);
-        de.ExecuteUpdate();
-        de.Reset();
-        uh.Bind(1, castka);
-        uh.Bind(2, denikId);
-        uh.Bind(3, faktura);
-        uh.Bind(4, rok);
-        uh.ExecuteUpdate();
-        uh.Reset();
-    };
-    for (int rok = last - years + 1; rok <= last; ++rok) {
-        if (rok != last) db.ExecuteUpdate(wxString::Format("INSERT INTO obdobi(rok,current) VALUES(%d,0)", rok));
-        for (int i = 0; i < INVOICES_PER_YEAR; ++i) {
-            ++id;
-            const wxString datum = wxString::Format("%d-%02d-%02d", rok, i % 12 + 1, i % 28 + 1);
-            const bool euro = i % 10 == 0;
-            const double cena = 100.0 + i % 500;
-            const double celkem = ITEMS_PER_INVOICE * 2 * cena * 1.21;
-            fa.Bind(1, id);
-            fa.Bind(2, i % 200 + 1);
-            fa.Bind(3, celkem);
-            fa.Bind(4, wxString::Format("FV%d%05d", rok, i + 1));
-            fa.Bind(5, wxString::Format("%d", i + 1));
-            fa.Bind(6, euro ? 2 : 1);
-            fa.Bind(7, rok);
-            fa.Bind(8, i % 5 != 0 ? 1 : 0);
-            for (int d = 9; d <= 12; ++d) fa.Bind(d, datum);
-            fa.Bind(13, euro ? 25.0 : 1.0);
-            fa.ExecuteUpdate();
-            fa.Reset();
-            for (int p = 0; p < ITEMS_PER_INVOICE; ++p) {
-                po.Bind(1, cena);
-                po.Bind(2, 2 * cena * 0.21);
-                po.Bind(3, 2 * cena * 1.21);
-                po.Bind(4, id);
-                po.ExecuteUpdate();
-                po.Reset();
-            }
-            if (i % 3 == 0) continue;  // unpaid
-            if (i % 3 == 1) {
-                platba(celkem, datum, id, rok);
-            } else {  // in two parts, the second one not yet on even ones
-                platba(celkem / 2, datum, id, rok);
-                if (i % 2) platba(celkem - celkem / 2, datum, id, rok);
+        wxSQLite3Transaction tx(&db);
+        for (int k = 1; k <= 200; ++k)
+            db.ExecuteUpdate(
+                wxString::Format("INSERT INTO kontakt(id,nazev,public,adresaid) VALUES(%d,'Odberatel %d',1,0)", k, k));
+        wxSQLite3Statement fa = db.PrepareStatement(
+            "INSERT INTO faktura(id,protistranaid,popis,celkem,cislo,vs,typid,uhradaid,menaid,predkontaceid,obdobirok,"
+            "vydana,platce,vystaveni,duzp,dppd,splatnost,kurz) VALUES(?,?,'Sluzby',?,?,?,1,2,?,1,?,?,1,?,?,?,?,?)");
+        wxSQLite3Statement po = db.PrepareStatement(
+            "INSERT INTO fapolozka(popis,mj,pocet,cenamj,sazbaid,dph,celkem,bezdph,fakturaid,zavpohid,zasobaid,"
+            "zaokrouhleni) VALUES('Prace','h',2,?,1,?,?,0,?,NULL,NULL,0)");
+        wxSQLite3Statement de = db.PrepareStatement(
+            "INSERT INTO denik(id,datum,cislo,popis,castka,castkacizi,kurz,reference,pausal,menaid,predkontaceid,"
+            "pokladnaid,bankaid,vypis,protistranaid,obdobirok) VALUES(?,?,?,'Uhrada',?,0,1,'',0,1,1,NULL,1,1,0,?)");
+        wxSQLite3Statement uh =
+            db.PrepareStatement("INSERT INTO uhrada(castka,denikid,fakturaid,zavpohid,obdobirok) VALUES(?,?,?,NULL,?)");
+        int id = 0, denikId = 0;
+        auto platba = [&](double castka, const wxString& datum, int faktura, int rok) {
+            ++denikId;
+            de.Bind(1, denikId);
+            de.Bind(2, datum);
+            de.Bind(3, wxString::Format("BP%06d", denikId));
+            de.Bind(4, castka);
+            de.Bind(5, rok);
+            de.ExecuteUpdate();
+            de.Reset();
+            uh.Bind(1, castka);
+            uh.Bind(2, denikId);
+            uh.Bind(3, faktura);
+            uh.Bind(4, rok);
+            uh.ExecuteUpdate();
+            uh.Reset();
+        };
+        for (int rok = last - years + 1; rok <= last; ++rok) {
+            if (rok != last) db.ExecuteUpdate(wxString::Format("INSERT INTO obdobi(rok,current) VALUES(%d,0)", rok));
+            for (int i = 0; i < INVOICES_PER_YEAR; ++i) {
+                ++id;
+                const wxString datum = wxString::Format("%d-%02d-%02d", rok, i % 12 + 1, i % 28 + 1);
+                const bool euro = i % 10 == 0;
+                const double cena = 100.0 + i % 500;
+                const double celkem = ITEMS_PER_INVOICE * 2 * cena * 1.21;
+                fa.Bind(1, id);
+                fa.Bind(2, i % 200 + 1);
+                fa.Bind(3, celkem);
+                fa.Bind(4, wxString::Format("FV%d%05d", rok, i + 1));
+                fa.Bind(5, wxString::Format("%d", i + 1));
+                fa.Bind(6, euro ? 2 : 1);
+                fa.Bind(7, rok);
+                fa.Bind(8, i % 5 != 0 ? 1 : 0);
+                for (int d = 9; d <= 12; ++d) fa.Bind(d, datum);
+                fa.Bind(13, euro ? 25.0 : 1.0);
+                fa.ExecuteUpdate();
+                fa.Reset();
+                for (int p = 0; p < ITEMS_PER_INVOICE; ++p) {
+                    po.Bind(1, cena);
+                    po.Bind(2, 2 * cena * 0.21);
+                    po.Bind(3, 2 * cena * 1.21);
+                    po.Bind(4, id);
+                    po.ExecuteUpdate();
+                    po.Reset();
+                }
+                if (i % 3 == 0) continue;  // unpaid
+                if (i % 3 == 1) {
+                    platba(celkem, datum, id, rok);
+                } else {  // in two parts, the second one not yet on even ones
+                    platba(celkem / 2, datum, id, rok);
+                    if (i % 2) platba(celkem - celkem / 2, datum, id, rok);
+                }
             }
         }
-    }
-    tx.Commit();
+        tx.Commit();
     }
     model.closeDatabase();
     // Opening once adds whatever the program adds to a file it opens (its indexes).
@@ -169,15 +169,15 @@ void onPlain(benchmark::State& state, int years, const wxString& sql) {
 
 // The floors: the documents' own columns with the counterparty, the currency and the paid
 // sum, which no list can do without.
-#define FAKTURA_FLOOR_COLUMNS                                                                              \
-    "SELECT f.id, f.cislo, f.popis, k.nazev, f.celkem, f.vystaveni, f.splatnost, "                         \
+#define FAKTURA_FLOOR_COLUMNS                                                                                  \
+    "SELECT f.id, f.cislo, f.popis, k.nazev, f.celkem, f.vystaveni, f.splatnost, "                             \
     "(SELECT total(castka) FROM uhrada WHERE fakturaid=f.id), m.kod, f.kurz, f.obdobirok, f.platce, f.typid, " \
     "f.vydana FROM faktura f LEFT JOIN kontakt k ON f.protistranaid=k.id LEFT JOIN mena m ON f.menaid=m.id "
 
 const char* const VYSTAVENE_FLOOR =
     FAKTURA_FLOOR_COLUMNS "WHERE f.obdobirok=? AND f.vydana=1 ORDER BY f.obdobirok, f.cislo, f.id";
-const char* const NEUHRAZENE_FLOOR =
-    FAKTURA_FLOOR_COLUMNS "WHERE f.obdobirok<=? AND f.celkem>(SELECT total(castka) FROM uhrada WHERE fakturaid=f.id) "
+const char* const NEUHRAZENE_FLOOR = FAKTURA_FLOOR_COLUMNS
+    "WHERE f.obdobirok<=? AND f.celkem>(SELECT total(castka) FROM uhrada WHERE fakturaid=f.id) "
     "ORDER BY f.obdobirok, f.cislo, f.id";
 const char* const POHLEDAVKY_FLOOR =
     "SELECT m.kod, f.menaid, f.celkem, (SELECT total(castka) FROM uhrada WHERE fakturaid=f.id) FROM faktura f "

@@ -15,9 +15,9 @@ class Neuhrazene : public TestCompany {
     int faktura(const char* cislo, bool vydana, double celkem, int menaid, double kurz, int rok,
                 const wxDateTime& splatnost, int kontakt) {
         const int id = m_model->getLastId("faktura");
-        EXPECT_TRUE(m_model->addFaktura(Faktura(id, kontakt, "", celkem, cislo, "", "", "", 1, 2, -1, 1, menaid, 1, rok,
-                                                vydana, false, den(rok, 1, 10), wxDateTime(), wxDateTime(), splatnost,
-                                                -1, kurz, 0)));
+        EXPECT_TRUE(
+            m_model->addFaktura(Faktura(id, kontakt, "", celkem, cislo, "", "", "", 1, 2, -1, 1, menaid, 1, rok, vydana,
+                                        false, den(rok, 1, 10), wxDateTime(), wxDateTime(), splatnost, -1, kurz, 0)));
         return id;
     }
     void zavpoh(const char* cislo, bool zavazek, double celkem, int rok, const wxDateTime& splatnost) {
@@ -56,11 +56,11 @@ TEST_F(Neuhrazene, ListsOpenDocumentsOfPastAndCurrentYearsWithTotals) {
     const wxString splatnost = lxformat::formatDatum(minule), pozdeji = lxformat::formatDatum(pristi);
     const std::string nbsp = "\u00A0";
     const std::string expected =
-        "FV  FV0001  " + std::string(u8("Alfa Čermák").utf8_str()) + "  " + std::string(splatnost.utf8_str()) +
-        "  1" + nbsp + "210,00  605,00  CZK  PO SPLATNOSTI\n" +
-        "FP  FP0001    " + std::string(pozdeji.utf8_str()) + "  100,00  100,00  EUR\n" +
-        "PO  PO0001    " + std::string(splatnost.utf8_str()) + "  300,00  300,00  CZK  PO SPLATNOSTI\n" +
-        "ZA  ZA0001    " + std::string(pozdeji.utf8_str()) + "  50,00  50,00  CZK\n" +
+        "FV  FV0001  " + std::string(u8("Alfa Čermák").utf8_str()) + "  " + std::string(splatnost.utf8_str()) + "  1" +
+        nbsp + "210,00  605,00  CZK  PO SPLATNOSTI\n" + "FP  FP0001    " + std::string(pozdeji.utf8_str()) +
+        "  100,00  100,00  EUR\n" + "PO  PO0001    " + std::string(splatnost.utf8_str()) +
+        "  300,00  300,00  CZK  PO SPLATNOSTI\n" + "ZA  ZA0001    " + std::string(pozdeji.utf8_str()) +
+        "  50,00  50,00  CZK\n" +
         std::string(u8("Neuhrazeno: pohledávky 905,00 Kč (po splatnosti 905,00 Kč), závazky 2").utf8_str()) + nbsp +
         std::string(u8("550,00 Kč (po splatnosti 0,00 Kč)\n").utf8_str());
     EXPECT_EQ(r.output, expected);

@@ -75,8 +75,8 @@ TEST_F(DokladyPages, TextFilterIgnoresCaseAndAccents) {
         const char* text;
         int rows;
     };
-    for (const Case& c : {Case{"cermak", 1}, Case{"ČERMÁK", 1}, Case{"fv2024002", 1}, Case{"sluzby", 2},
-                          Case{"beta", 0}}) {
+    for (const Case& c :
+         {Case{"cermak", 1}, Case{"ČERMÁK", 1}, Case{"fv2024002", 1}, Case{"sluzby", 2}, Case{"beta", 0}}) {
         lxFilter f;
         f.text = u8(c.text);
         page->setFilter(f);
@@ -109,12 +109,12 @@ TEST_F(DokladyPages, BookPrintListsTheShownDocumentsAndTheirTotal) {
 TEST_F(DokladyPages, ReceivableDocumentHasItsPartiesItemsVatAndTotal) {
     const int odberatel = kontakt("Jiří Čermák", "Brno");
     const int id = m_model->getLastId("zavpoh");
-    ASSERT_TRUE(m_model->addZavPoh(ZavPoh(id, odberatel, u8("Nájem"), 1322, "PO0007", "7", 2, -1, 1, 1, 1, 2024,
-                                          false, true, iso("2024-03-01"), iso("2024-03-01"), iso("2024-03-01"),
+    ASSERT_TRUE(m_model->addZavPoh(ZavPoh(id, odberatel, u8("Nájem"), 1322, "PO0007", "7", 2, -1, 1, 1, 1, 2024, false,
+                                          true, iso("2024-03-01"), iso("2024-03-01"), iso("2024-03-01"),
                                           iso("2024-03-15"), -1, 1, 0)));
     const int s21 = m_model->getDphSazbaId(21, 2024), s12 = m_model->getDphSazbaId(12, 2024);
-    ASSERT_TRUE(m_model->addFaPolozka(
-        FaPolozka(m_model->getLastId("fapolozka"), u8("Pronájem"), "ks", 1, 1000, s21, 210, 1210, true, -1, id, -1, false)));
+    ASSERT_TRUE(m_model->addFaPolozka(FaPolozka(m_model->getLastId("fapolozka"), u8("Pronájem"), "ks", 1, 1000, s21,
+                                                210, 1210, true, -1, id, -1, false)));
     ASSERT_TRUE(m_model->addFaPolozka(
         FaPolozka(m_model->getLastId("fapolozka"), u8("Úklid"), "h", 2, 50, s12, 12, 112, true, -1, id, -1, false)));
 
@@ -130,9 +130,9 @@ TEST_F(DokladyPages, ReceivableDocumentHasItsPartiesItemsVatAndTotal) {
     ASSERT_TRUE(wxFileExists(pdf));
     EXPECT_EQ(PrintTest::pdfPages(pdf), 1);
     const std::string text = plain(PrintTest::pdfText(pdf));
-    for (const char* expected : {"Pohledávka PO0007", "Jiří Čermák", "Brno", "Pronájem", "Úklid", "Rekapitulace DPH",
-                                 "1 000,00", "1 210,00", "100,00", "112,00", "Převodem",
-                                 "15.03.2024", "Celkem k úhradě: 1 322,00 CZK"})
+    for (const char* expected :
+         {"Pohledávka PO0007", "Jiří Čermák", "Brno", "Pronájem", "Úklid", "Rekapitulace DPH", "1 000,00", "1 210,00",
+          "100,00", "112,00", "Převodem", "15.03.2024", "Celkem k úhradě: 1 322,00 CZK"})
         EXPECT_THAT(text, HasSubstr(expected));
 
     // No document of that id: a message, no print.

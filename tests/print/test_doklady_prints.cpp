@@ -16,8 +16,8 @@ std::vector<KnihaRadek> radky(int pocet) {
     std::vector<KnihaRadek> r;
     for (int i = 1; i <= pocet; ++i)
         r.push_back({wxString::Format("FV2024%03d", i), den(1 + i % 28, wxDateTime::Feb),
-                     den(1 + i % 28, wxDateTime::Mar), u8("Žluťoučký kůň s.r.o."), u8("Práce a materiál"),
-                     1210.5 * i, i % 2 ? "CZK" : "EUR", 210 * i, 0, u8("Neuhrazeno")});
+                     den(1 + i % 28, wxDateTime::Mar), u8("Žluťoučký kůň s.r.o."), u8("Práce a materiál"), 1210.5 * i,
+                     i % 2 ? "CZK" : "EUR", 210 * i, 0, u8("Neuhrazeno")});
     return r;
 }
 
@@ -32,7 +32,8 @@ ZavpohDoklad doklad(bool platce, int polozek) {
     d.splatnost = den(15, wxDateTime::Apr);
     d.vs = "2024003";
     d.uhrada = u8("Převodem");
-    for (int i = 1; i <= polozek; ++i) d.polozky.push_back({wxString::Format(u8("Položka %d"), i), "ks", 1, 100, 21, 21, 121});
+    for (int i = 1; i <= polozek; ++i)
+        d.polozky.push_back({wxString::Format(u8("Položka %d"), i), "ks", 1, 100, 21, 21, 121});
     d.souhrn = {{21, 100.0 * polozek, 21.0 * polozek}};
     d.celkem = 121.0 * polozek;
     return d;
@@ -93,13 +94,12 @@ TEST_P(Books, ListEveryDocumentThenTheTotalInCrowns) {
         EXPECT_NE(text.Find(u8(expected)), wxNOT_FOUND) << expected;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, Books,
-    ::testing::Values(BookCase{"issued", true, false, "Kniha vydaných faktur 2024", "Odběratel"},
-                      BookCase{"received", true, true, "Kniha přijatých faktur 2024", "Dodavatel"},
-                      BookCase{"receivables", false, false, "Kniha pohledávek 2024", "Odběratel"},
-                      BookCase{"liabilities", false, true, "Kniha závazků 2024", "Dodavatel"}),
-    [](const auto& i) { return std::string(i.param.name); });
+INSTANTIATE_TEST_SUITE_P(Kinds, Books,
+                         ::testing::Values(BookCase{"issued", true, false, "Kniha vydaných faktur 2024", "Odběratel"},
+                                           BookCase{"received", true, true, "Kniha přijatých faktur 2024", "Dodavatel"},
+                                           BookCase{"receivables", false, false, "Kniha pohledávek 2024", "Odběratel"},
+                                           BookCase{"liabilities", false, true, "Kniha závazků 2024", "Dodavatel"}),
+                         [](const auto& i) { return std::string(i.param.name); });
 
 TEST_F(DokladyPrints, LongBookRunsOverPagesWithTheTotalOnTheLast) {
     KnihaFakturPrint print(nullptr, true, u8("Účetní firma"), 2024, radky(80), KnihaCelkem{1, 0, 0, 1});

@@ -20,8 +20,8 @@ KnihaDokladuPrint::KnihaDokladuPrint(wxWindow* parent, const wxString& nadpis, c
     m_layout.paperOrientation = wxLANDSCAPE;
 
     m_kniha.tableTitle.title = m_title;
-    const wxString hlavicka[] = {u8("Číslo"), u8("Vystaveno"), u8("Splatnost"), protistrana, u8("Popis"),
-                                 u8("Celkem"), u8("Měna"),     u8("DPH"),       u8("Uhrazeno"), u8("Stav")};
+    const wxString hlavicka[] = {u8("Číslo"),  u8("Vystaveno"), u8("Splatnost"), protistrana,    u8("Popis"),
+                                 u8("Celkem"), u8("Měna"),      u8("DPH"),       u8("Uhrazeno"), u8("Stav")};
     for (const wxString& h : hlavicka) m_kniha.addCellToHeader(h);
     // Long names and descriptions wrap instead of pushing the amounts off the sheet.
     m_kniha.setColumnWidth(3, 55);

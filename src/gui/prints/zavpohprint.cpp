@@ -27,8 +27,8 @@ struct Sloupec {
 std::vector<Sloupec> sloupce(bool platce) {
     const auto L = wxTEXT_ALIGNMENT_LEFT, R = wxTEXT_ALIGNMENT_RIGHT;
     if (platce)
-        return {{"Popis", 66, L}, {"MJ", 12, L},    {"Počet", 18, R}, {"Cena za MJ", 26, R},
-                {"DPH %", 14, R}, {"DPH", 24, R},   {"Celkem", 30, R}};
+        return {{"Popis", 66, L}, {"MJ", 12, L},  {"Počet", 18, R}, {"Cena za MJ", 26, R},
+                {"DPH %", 14, R}, {"DPH", 24, R}, {"Celkem", 30, R}};
     return {{"Popis", 100, L}, {"MJ", 12, L}, {"Počet", 20, R}, {"Cena za MJ", 28, R}, {"Celkem", 30, R}};
 }
 

@@ -46,8 +46,8 @@ struct ZavpohDoklad {
     wxDateTime duzp;
     wxDateTime splatnost;
     wxString vs;
-    wxString uhrada;    // payment form, "Převodem"
-    wxString registr;   // the cash register or bank account it is paid through
+    wxString uhrada;   // payment form, "Převodem"
+    wxString registr;  // the cash register or bank account it is paid through
     wxString mena = "CZK";
     std::vector<ZavpohPolozka> polozky;
     std::vector<ZavpohDph> souhrn;

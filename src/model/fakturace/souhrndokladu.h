@@ -5,8 +5,8 @@
 
 #include <wx/datetime.h>
 
-#include "lxsettings.h"
 #include "clock.h"
+#include "lxsettings.h"
 #include "views.h"
 
 // An amount of a document in home currency. A document in the home currency may carry the
