@@ -12,6 +12,9 @@
 //                           number, description, amount, register or account code, pre-posting
 //                           code, counterparty): all rows or, when one is bad, none
 //   evida-cli stav FILE     the balance of every cash register and bank account
+//   evida-cli neuhrazene FILE
+//                           unpaid invoices, receivables and liabilities of all years up to
+//                           the current one, with the open totals in home currency
 //
 // Messages are Czech; the technical details of a failure (SQLite's and wxWidgets' own English
 // lines) go to the standard error only with --verbose, which may stand anywhere.
@@ -28,6 +31,8 @@
 #include "dbmodel.h"
 #include "denikimport.h"
 #include "download.h"
+#include "fakturace/souhrndokladu.h"
+#include "lxformat.h"
 #include "lxsettings.h"
 #include "schema.h"
 
@@ -62,6 +67,7 @@ int usage() {
                                 "  rates SOUBOR DATUM     kurzy ČNB ke dni (DATUM jako RRRR-MM-DD)\n"
                                 "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
                                 "  stav SOUBOR            stav pokladen a bankovních účtů\n"
+                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n"
                                 "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
 }
@@ -163,6 +169,45 @@ int stav(DbModel& model) {
     return 0;
 }
 
+// One unpaid document: kind, number, counterparty, due date, total, open amount, currency,
+// and the mark of an overdue one.
+template <class Row>
+void printNeuhrazeny(const char* druh, const Row& r, const wxDateTime& dnes) {
+    const wxString mena = r.mena().empty() ? wxString("CZK") : r.mena();
+    wxString line = wxString::Format("%s  %s  %s  %s  %s  %s  %s", druh, r.cislo(), r.protistrana(),
+                                     r.splatnost().IsValid() ? lxformat::formatDatum(r.splatnost()) : wxString("-"),
+                                     lxformat::formatCastka(r.celkem()), lxformat::formatCastka(zbyvaUhradit(r)), mena);
+    if (isDokladPoSplatnosti(r.celkem(), r.uhrazeno(), r.splatnost(), dnes)) line += "  PO SPLATNOSTI";
+    print(line);
+}
+
+// Unpaid documents of every year up to the current one, issued invoices first; then what is
+// open on each side in home currency.
+int neuhrazene(DbModel& model) {
+    const wxDateTime dnes = pracovniDen();
+    const lxFakturaViewArray faktury = model.neuhrazeneFakturyView();
+    const lxZavPohViewArray zavpohy = model.neuhrazeneZavpohyView();
+    std::vector<const FakturaView*> vydane, prijate;
+    for (const auto& f : faktury) (f->vydana() ? vydane : prijate).push_back(f.get());
+    std::vector<const ZavPohView*> pohledavky, zavazky;
+    for (const auto& z : zavpohy) (z->zavazek() ? zavazky : pohledavky).push_back(z.get());
+    for (const FakturaView* f : vydane) printNeuhrazeny("FV", *f, dnes);
+    for (const FakturaView* f : prijate) printNeuhrazeny("FP", *f, dnes);
+    for (const ZavPohView* z : pohledavky) printNeuhrazeny("PO", *z, dnes);
+    for (const ZavPohView* z : zavazky) printNeuhrazeny("ZA", *z, dnes);
+    if (faktury.empty() && zavpohy.empty()) print(wxString::FromUTF8("Žádné neuhrazené doklady."));
+
+    const SouhrnDokladu fv = souhrnDokladu(vydane, dnes), po = souhrnDokladu(pohledavky, dnes);
+    const SouhrnDokladu fp = souhrnDokladu(prijate, dnes), za = souhrnDokladu(zavazky, dnes);
+    const wxString kc = wxString::FromUTF8("Kč");
+    print(wxString::Format(wxString::FromUTF8("Neuhrazeno: pohledávky %s (po splatnosti %s), závazky %s (po splatnosti %s)"),
+                           lxformat::formatCastka(fv.neuhrazeno + po.neuhrazeno, kc),
+                           lxformat::formatCastka(fv.poSplatnosti + po.poSplatnosti, kc),
+                           lxformat::formatCastka(fp.neuhrazeno + za.neuhrazeno, kc),
+                           lxformat::formatCastka(fp.poSplatnosti + za.poSplatnosti, kc)));
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -205,5 +250,6 @@ int main(int argc, char** argv) {
     if (command == "rates") return rates(model, path, args[2]);
     if (command == "import") return importCsv(model, path, wxFileName(args[2]).GetAbsolutePath());
     if (command == "stav") return open(model, path) ? stav(model) : 1;
+    if (command == "neuhrazene") return open(model, path) ? neuhrazene(model) : 1;
     return usage();
 }

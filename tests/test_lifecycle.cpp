@@ -171,7 +171,7 @@ TEST_F(Cli, UsageListsEveryCommandAndFails) {
     for (const char* args : {"", "check", "nic soubor.db", "rates soubor.db"}) {
         const CliResult usage = runCli(args);
         EXPECT_EQ(usage.status, 2) << args;
-        for (const char* command : {"create", "check", "info", "rates", "import", "stav", "--verbose"})
+        for (const char* command : {"create", "check", "info", "rates", "import", "stav", "neuhrazene", "--verbose"})
             EXPECT_THAT(usage.output, HasSubstr(command)) << args;
     }
 }

@@ -158,6 +158,15 @@ bool DbModel::runChecks() {
         for (int i = 0; i < count; ++i) {
             if (!checkTable(tables[i]) && tables[i].label) report += wxString::FromUTF8(tables[i].label) + "\n";
         }
+        // After the checks, since rebuilding a damaged table drops its indexes. A file that
+        // cannot take them still opens; it is only slower.
+        for (int i = 0; sqlite_indexes[i]; ++i) {
+            try {
+                m_db.ExecuteUpdate(sqlite_indexes[i]);
+            } catch (const wxSQLite3Exception& e) {
+                sqllog::error(sqlite_indexes[i], e);
+            }
+        }
     } catch (const SafetyCopyFailed&) {
         fail(dbsafety::copyFailedMessage(m_path));
         return false;

@@ -7,17 +7,18 @@ namespace {
 
 // Invoices or receivables/liabilities with their counterparty, currency and the amount paid
 // so far; `extraColumns` adds the columns of the kind, `where` picks the rows (its "?" are
-// bound by the caller).
+// bound by the caller) and may test the paid amount as `uhrazeno`. The payments are summed
+// per document through the index on the paying column, so a year's list does not read the
+// payments of every other year.
 wxString dokladyView(const char* table, const char* paidBy, const char* extraColumns, const wxString& where) {
     return wxString::Format(
         "SELECT f.id AS id, f.cislo AS cislo, f.popis AS popis, k.nazev AS protistrana, f.celkem AS celkem, "
-        "f.vystaveni AS vystaveni, f.splatnost AS splatnost, IFNULL(u.uhrazeno,0) AS uhrazeno, m.kod AS mena, "
+        "f.vystaveni AS vystaveni, f.splatnost AS splatnost, "
+        "(SELECT total(castka) FROM uhrada WHERE %s=f.id) AS uhrazeno, m.kod AS mena, "
         "f.kurz AS kurz, f.obdobirok AS obdobirok%s "
         "FROM %s f LEFT JOIN kontakt k ON f.protistranaid=k.id LEFT JOIN mena m ON f.menaid=m.id "
-        "LEFT JOIN (SELECT %s AS dokladid, total(castka) AS uhrazeno FROM uhrada WHERE %s IS NOT NULL GROUP BY %s) u "
-        "ON u.dokladid=f.id "
         "WHERE %s ORDER BY f.obdobirok, f.cislo, f.id",
-        extraColumns, table, paidBy, paidBy, paidBy, where);
+        paidBy, extraColumns, table, where);
 }
 
 const char* const FAKTURA_COLUMNS = ", f.platce AS platce, f.typid AS typid, f.vydana AS vydana";
@@ -32,14 +33,14 @@ const char* const ZAVPOH_COLUMNS = ", f.zavazek AS zavazek";
 lxFakturaViewArray DbModel::neuhrazeneFakturyView() {
     if (isForeignStorage()) return {};
     return recordio::query<FakturaView>(
-        m_db, dokladyView("faktura", "fakturaid", FAKTURA_COLUMNS, "f.obdobirok<=? AND NOT IFNULL(f.celkem,0)<=IFNULL(u.uhrazeno,0)"),
+        m_db, dokladyView("faktura", "fakturaid", FAKTURA_COLUMNS, "f.obdobirok<=? AND NOT IFNULL(f.celkem,0)<=uhrazeno"),
         currentRok());
 }
 
 lxZavPohViewArray DbModel::neuhrazeneZavpohyView() {
     if (isForeignStorage()) return {};
     return recordio::query<ZavPohView>(
-        m_db, dokladyView("zavpoh", "zavpohid", ZAVPOH_COLUMNS, "f.obdobirok<=? AND NOT IFNULL(f.celkem,0)<=IFNULL(u.uhrazeno,0)"),
+        m_db, dokladyView("zavpoh", "zavpohid", ZAVPOH_COLUMNS, "f.obdobirok<=? AND NOT IFNULL(f.celkem,0)<=uhrazeno"),
         currentRok());
 }
 

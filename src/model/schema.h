@@ -46,6 +46,9 @@ extern const char* const sqlite_tb_odpiskupina[];
 extern const char* const sqlite_tb_majetek[];
 extern const char* const sqlite_tb_odpis[];
 extern const char* const sqlite_tb_settings[];
+// Indexes on the columns that lead from a document to its items and payments, null-terminated.
+// They are created with every table and again on every open, so old files get them too.
+extern const char* const sqlite_indexes[];
 
 namespace schema {
 

@@ -28,6 +28,14 @@ const char* const sqlite_tb_fapolozka[] = {
     "CREATE TABLE fapolozka (id INTEGER PRIMARY KEY AUTOINCREMENT, popis TEXT, mj TEXT, pocet REAL, cenamj REAL, sazbaid INTEGER REFERENCES dphsazba(id) ON UPDATE CASCADE ON DELETE CASCADE, dph REAL, celkem REAL, bezdph INTEGER, fakturaid INTEGER REFERENCES faktura(id) ON UPDATE CASCADE ON DELETE CASCADE, zavpohid INTEGER REFERENCES zavpoh(id) ON UPDATE CASCADE ON DELETE CASCADE, zasobaid INTEGER REFERENCES zasoba(id) ON UPDATE CASCADE ON DELETE SET NULL, zaokrouhleni INTEGER)",
     nullptr};
 
+const char* const sqlite_indexes[] = {
+    "CREATE INDEX IF NOT EXISTS fapolozka_fakturaid ON fapolozka(fakturaid)",
+    "CREATE INDEX IF NOT EXISTS fapolozka_zavpohid ON fapolozka(zavpohid)",
+    "CREATE INDEX IF NOT EXISTS uhrada_fakturaid ON uhrada(fakturaid)",
+    "CREATE INDEX IF NOT EXISTS uhrada_zavpohid ON uhrada(zavpohid)",
+    "CREATE INDEX IF NOT EXISTS uhrada_denikid ON uhrada(denikid)",
+    nullptr};
+
 const char* const sqlite_tb_uhrada[] = {
     "CREATE TABLE uhrada (id INTEGER PRIMARY KEY AUTOINCREMENT, castka REAL, denikid INTEGER NOT NULL REFERENCES denik(id) ON UPDATE CASCADE ON DELETE CASCADE, fakturaid INTEGER REFERENCES faktura(id) ON UPDATE CASCADE ON DELETE CASCADE, zavpohid INTEGER REFERENCES zavpoh(id) ON UPDATE CASCADE ON DELETE CASCADE, obdobirok INTEGER NOT NULL REFERENCES obdobi(rok) ON UPDATE CASCADE ON DELETE CASCADE)",
     nullptr};

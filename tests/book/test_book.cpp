@@ -146,7 +146,8 @@ TEST_F(BookTest, InvoicePageShowsCounterpartyAndPaymentState) {
     const wxArrayString stav = column(list, 9);
     EXPECT_THAT(std::vector<wxString>(stav.begin(), stav.end()),
                 ElementsAre("Neuhrazeno", "Po splatnosti", "Uhrazeno"));
-    EXPECT_EQ(page->footerText(), u8("Dokladů: 3    Neuhrazených: 2    Po splatnosti: 1"));
+    EXPECT_EQ(page->footerText(), u8("Celkem: 600,00 Kč    Uhrazeno: 300,00 Kč    Neuhrazeno: 300,00 Kč    "
+                                     "Po splatnosti: 200,00 Kč    Dokladů: 3"));
     lxFilter overdue;
     overdue.choice = 3;
     page->setFilter(overdue);

@@ -3,6 +3,7 @@
 #include <wx/artprov.h>
 
 #include "DenikTisk.h"
+#include "DokladTisk.h"
 #include "FakturaDialog.h"
 #include "PrijemVydejDialog.h"
 #include "ZavpohDialog.h"
@@ -81,6 +82,13 @@ void printDenik(lxBookPage* page) {
     std::vector<int> ids;
     for (size_t r = 0; r < page->rows().rowCount(); ++r) ids.push_back(page->rows().id(r));
     DenikTisk(page, page->navigation(), ids, page->list()->selectedId()).run();
+}
+
+// The book of the invoices or receivables/liabilities the page shows, in the shown order.
+void printDoklady(lxBookPage* page) {
+    std::vector<int> ids;
+    for (size_t r = 0; r < page->rows().rowCount(); ++r) ids.push_back(page->rows().id(r));
+    tiskKnihyDokladu(page, page->navigation(), ids);
 }
 
 // The journal's pages export whole entries in the shown order, in the form the journal
@@ -259,11 +267,13 @@ lxBookPage* create(wxWindow* parent, int nav) {
         case NAV_FAKTURY_PRIJATE:
             created = page(parent, nav, bookshapes::faktury(nav == NAV_FAKTURY_VYDANE));
             addDokladCommands(created);
+            created->setPrintAction([created] { printDoklady(created); });
             break;
         case NAV_POHLEDAVKY:
         case NAV_ZAVAZKY:
             created = page(parent, nav, bookshapes::zavpoh(nav == NAV_ZAVAZKY));
             addDokladCommands(created);
+            created->setPrintAction([created] { printDoklady(created); });
             break;
         case NAV_MAJETEK:
             created = page(parent, nav, bookshapes::majetek());

@@ -9,6 +9,7 @@
 #include "lxformat.h"
 #include "lxsettings.h"
 #include "lxutils.h"
+#include "fakturace/souhrndokladu.h"
 
 namespace bookshapes {
 
@@ -83,10 +84,7 @@ wxString count(const char* format, size_t n) { return wxString::Format(u8(format
 // --- invoices, receivables and liabilities -------------------------------------------------
 
 // The working date of the program is the "today" of overdue documents.
-wxDateTime today() {
-    const wxDateTime datum = lxSettings::instance()->datum();
-    return datum.IsValid() ? datum.GetDateOnly() : wxDateTime::Today();
-}
+wxDateTime today() { return pracovniDen(); }
 
 enum Stav { UHRAZENO = 0, NEUHRAZENO = 1, CASTECNE = 2, PO_SPLATNOSTI = 3 };
 
@@ -136,16 +134,19 @@ void addDokladFilter(lxPageShape<Row>& shape) {
     shape.choices.push_back({u8("Neuhrazené"), [](const Row& r) { return stav(r) != UHRAZENO; }});
     shape.choices.push_back({u8("Uhrazené"), [](const Row& r) { return stav(r) == UHRAZENO; }});
     shape.choices.push_back({u8("Po splatnosti"), [](const Row& r) { return stav(r) == PO_SPLATNOSTI; }});
-    // Totals of documents in several currencies do not add up; the footer counts instead.
+    // The text field finds a document by its number, counterparty or description, whatever
+    // the case and accents ("cermak" finds "Čermák").
+    shape.search = [](const Row& r, const wxString& folded) {
+        for (const wxString& text : {r.cislo(), r.protistrana(), r.popis()})
+            if (collation::searchFold(text).Find(folded) != wxNOT_FOUND) return true;
+        return false;
+    };
+    // Documents in several currencies add up in home currency, each at its own rate.
     shape.footer = [](const std::vector<const Row*>& rows) {
-        size_t neuhrazene = 0, poSplatnosti = 0;
-        for (const Row* r : rows) {
-            const Stav s = stav(*r);
-            neuhrazene += s != UHRAZENO;
-            poSplatnosti += s == PO_SPLATNOSTI;
-        }
-        return count("Dokladů: %d", rows.size()) + "    " + count("Neuhrazených: %d", neuhrazene) + "    " +
-               count("Po splatnosti: %d", poSplatnosti);
+        const SouhrnDokladu s = souhrnDokladu(rows, today());
+        return kc("Celkem", s.celkem) + "    " + kc("Uhrazeno", s.uhrazeno) + "    " +
+               kc("Neuhrazeno", s.neuhrazeno) + "    " + kc("Po splatnosti", s.poSplatnosti) + "    " +
+               count("Dokladů: %d", rows.size());
     };
 }
 

@@ -1,0 +1,66 @@
+// One receivable or liability as a document: the two parties with their addresses, the
+// number, dates, variable symbol and how it is paid, its items, for a VAT payer's document
+// the VAT summary per rate, and the total.
+#pragma once
+
+#include <wx/datetime.h>
+
+#include <vector>
+
+#include "document.h"
+#include "documentprint.h"
+
+// A party of the document as it prints: its name, then address lines, IČ and DIČ.
+struct ZavpohStrana {
+    wxString nazev;
+    std::vector<wxString> adresa;
+    wxString ic;
+    wxString dic;
+};
+
+struct ZavpohPolozka {
+    wxString popis;
+    wxString mj;
+    double pocet = 0;
+    double cenamj = 0;
+    int sazba = 0;  // percent
+    double dph = 0;
+    double celkem = 0;
+};
+
+// One line of the VAT summary, in the document's currency.
+struct ZavpohDph {
+    int sazba = 0;
+    double zaklad = 0;
+    double dph = 0;
+};
+
+struct ZavpohDoklad {
+    bool zavazek = false;  // a liability, else a receivable
+    bool platce = false;   // made out as a VAT payer's: VAT columns and summary
+    wxString cislo;
+    wxString popis;
+    ZavpohStrana firma;
+    ZavpohStrana protistrana;
+    wxDateTime vystaveni;
+    wxDateTime duzp;
+    wxDateTime splatnost;
+    wxString vs;
+    wxString uhrada;   // payment form, "Převodem"
+    wxString registr;  // the cash register or bank account it is paid through
+    wxString mena = "CZK";
+    std::vector<ZavpohPolozka> polozky;
+    std::vector<ZavpohDph> souhrn;
+    double celkem = 0;
+};
+
+class ZavpohPrint : public DocumentPrint {
+ public:
+    ZavpohPrint(wxWindow* parent, const ZavpohDoklad& doklad);
+
+    // "Pohledávka PO0001" or "Závazek ZA0001".
+    static wxString nadpis(const ZavpohDoklad& doklad);
+
+ private:
+    Document m_doklad;
+};
