@@ -17,7 +17,7 @@ std::vector<KnihaRadek> radky(int pocet) {
     for (int i = 1; i <= pocet; ++i)
         r.push_back({wxString::Format("FV2024%03d", i), den(1 + i % 28, wxDateTime::Feb),
                      den(1 + i % 28, wxDateTime::Mar), u8("Žluťoučký kůň s.r.o."), u8("Práce a materiál"), 1210.5 * i,
-                     i % 2 ? "CZK" : "EUR", 210 * i, 0, u8("Neuhrazeno")});
+                     i % 2 ? "CZK" : "EUR", 210.0 * i, 0, u8("Neuhrazeno")});
     return r;
 }
 

@@ -195,6 +195,11 @@ void addDokladCommands(lxBookPage* page) {
                         [page](int id) { zaplatitDoklad(page, id); });
     page->addRowCommand(u8("Úhrady"), u8("Zobrazit úhrady vybraného dokladu"), wxART_LIST_VIEW,
                         [page](int id) { uhradyDokladu(page, id); });
+    // A receivable or liability prints as a document of its own (invoices get their print with
+    // the invoice layouts); offered in the context menu, the toolbar being full.
+    if (!isFakturaStranka(page->navigation()))
+        page->addRowCommand(u8("Tisk dokladu"), u8("Vytisknout vybraný doklad"), wxART_PRINT,
+                            [page](int id) { tiskZavpoh(page, id); }, false);
 }
 
 void deleteJizda(lxBookPage* page, int id) {

@@ -131,12 +131,15 @@ bool lxBookPage::run(lxBookAction action) {
     return true;
 }
 
-void lxBookPage::addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler) {
+void lxBookPage::addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler,
+                               bool naListe) {
     if (m_rowCommands.size() >= ROW_COMMANDS_MAX) return;
     const int id = ID_ROW_COMMAND + static_cast<int>(m_rowCommands.size());
     m_rowCommands.push_back({label, help, std::move(handler)});
-    m_toolbar->AddTool(id, label, wxArtProvider::GetBitmapBundle(art, wxART_TOOLBAR, wxSize(16, 16)), help);
-    m_toolbar->Realize();
+    if (naListe) {
+        m_toolbar->AddTool(id, label, wxArtProvider::GetBitmapBundle(art, wxART_TOOLBAR, wxSize(16, 16)), help);
+        m_toolbar->Realize();
+    }
     updateTools();
 }
 

@@ -49,8 +49,10 @@ class lxBookPage : public wxPanel {
     bool run(lxBookAction action);
 
     // A command of this page on the selected row ("Zaplatit", "Úhrady"): a tool at the end of
-    // the toolbar and an item of the context menu, enabled while a row is selected.
-    void addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler);
+    // the toolbar (unless `naListe` is false) and an item of the context menu, enabled while a
+    // row is selected.
+    void addRowCommand(const wxString& label, const wxString& help, const wxString& art, Action handler,
+                       bool naListe = true);
     // Runs the n-th such command on the selected row; false when no row is selected.
     bool runRowCommand(size_t index);
 
