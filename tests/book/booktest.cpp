@@ -1,6 +1,7 @@
 #include "booktest.h"
 
 #include <wx/app.h>
+#include <wx/listctrl.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -90,4 +91,10 @@ void choose(wxChoice* choice, int index) {
     event.SetEventObject(choice);
     event.SetInt(index);
     choice->GetEventHandler()->ProcessEvent(event);
+}
+
+wxArrayString listTexts(wxListCtrl* list, int column) {
+    wxArrayString texts;
+    for (long i = 0; i < list->GetItemCount(); ++i) texts.Add(list->GetItemText(i, column));
+    return texts;
 }
