@@ -3,6 +3,7 @@
 #include <wx/listctrl.h>
 
 #include <algorithm>
+#include <iterator>
 
 #include "DphDruhFilter.h"
 #include "dbmodel.h"
@@ -19,9 +20,9 @@ DphDruhyDialog::DphDruhyDialog(wxWindow* parent, bool chooser, Strana strana)
                             "Nabízet"}),
                    commands(this), chooser),
       m_strana(strana) {
-    list()->SetColumnWidth(0, 150);
-    list()->SetColumnWidth(1, 420);
-    list()->SetMinSize(wxSize(980, 420));
+    const int widths[] = {140, 360, 100, 120, 120, 100, 70};
+    for (int c = 0; c < static_cast<int>(std::size(widths)); ++c) list()->SetColumnWidth(c, widths[c]);
+    list()->SetMinSize(wxSize(1040, 420));
     Fit();
     list()->Bind(wxEVT_LIST_COL_CLICK, [this](wxListEvent& event) { sortBy(event.GetColumn()); });
     refresh();

@@ -1,10 +1,14 @@
 #include "FauhradyDialog.h"
 
+#include <wx/listctrl.h>
+
 #include "fakturace/fauhrada.h"
 
 FauhradyDialog::FauhradyDialog(wxWindow* parent, bool chooser)
     : FormCiselnikDialog(parent, wxString::FromUTF8("Úhrady"), strings({"Popis", "Pokladnou"}),
                      strings({"Přidat úhradu", "Upravit úhradu", "Kopírovat úhradu", "Smazat úhradu"}), chooser) {
+    list()->SetColumnWidth(0, 240);
+    list()->SetColumnWidth(1, 100);
     refresh();
 }
 
