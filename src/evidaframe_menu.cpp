@@ -4,6 +4,8 @@
 
 #include <iterator>
 
+#include "DphDruhyDialog.h"
+#include "FauhradyDialog.h"
 #include "PredkontacesDialog.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
@@ -63,25 +65,32 @@ const PageItem PAGE_ITEMS[] = {
 };
 
 // Commands whose dialogs come with later parts of the program (tax overviews and income
-// tax, payment kinds, the sent-invoice log, stock-takings,
-// the template editor). Their items are in place and stay disabled until then.
+// tax, the sent-invoice log, stock-takings, the template editor). Their items are in place
+// and stay disabled until then.
 const int LATER_ITEMS[] = {
     evidaFrame::ID_PREHLED_PRIJMU,   evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
-    evidaFrame::ID_UHRADY,
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
-// The six VAT commands are for VAT payers only. Of them only "Uložená přiznání" works yet:
-// the VAT return, the control statement, the EC sales list, the VAT document list and the
-// VAT classification dialog come with the tax part of the program, and their items stay
-// disabled even for a VAT payer until then.
-const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI};
+// The six VAT commands are for VAT payers only. Of them "Uložená přiznání" and "Členění DPH"
+// work yet: the VAT return, the control statement, the EC sales list and the VAT document
+// list come with the tax part of the program, and their items stay disabled even for a VAT
+// payer until then.
+const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH};
 
 bool isVatItemReady(int id) {
     for (int ready : VAT_ITEMS_READY) {
         if (ready == id) return true;
     }
     return false;
+}
+
+// Opens a code-list dialog over the open company.
+template <class Dialog>
+void showCodeList(wxWindow* parent, DbModel* model) {
+    if (!model || !model->isOpen()) return;
+    Dialog dialog(parent);
+    dialog.ShowModal();
 }
 
 }  // namespace
@@ -178,14 +187,15 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onSmazatObdobi, this, ID_OBDOBI_SMAZAT);
     Bind(wxEVT_MENU, &evidaFrame::onAdresar, this, ID_ADRESAR);
     Bind(wxEVT_MENU, &evidaFrame::onStavUctu, this, ID_STAV_UCTU);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PredkontacesDialog>(this, m_model.get()); }, ID_PREDKONTACE);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<FauhradyDialog>(this, m_model.get()); }, ID_UHRADY);
+    // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,
         [this](wxCommandEvent&) {
-            if (!m_model || !m_model->isOpen()) return;
-            PredkontacesDialog dialog(this);
-            dialog.ShowModal();
+            if (m_model && m_model->isFirmaPlatce()) showCodeList<DphDruhyDialog>(this, m_model.get());
         },
-        ID_PREDKONTACE);
+        ID_CLENENI_DPH);
     Bind(wxEVT_MENU, &evidaFrame::onUlozenaPriznani, this, ID_ULOZENA_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onZalohovat, this, ID_ZALOHOVAT);
     Bind(wxEVT_MENU, &evidaFrame::onObnovit, this, ID_OBNOVIT);

@@ -2,19 +2,14 @@
 // from them ("Spočítat IBAN"), the BIC filled from the chosen bank, and the currency.
 #pragma once
 
-#include <wx/dialog.h>
+#include "FormDialog.h"
 
-#include <vector>
-
-class wxChoice;
-class wxTextCtrl;
-
-class BankaDialog : public wxDialog {
+class BankaDialog : public FormDialog {
  public:
     // `id` of the edited account, -1 for a new one; a new one may start as a copy of
     // `vzor` without its code.
     BankaDialog(wxWindow* parent, int id = -1, int vzor = -1);
-    bool save();
+    bool save() override;
     int bankaId() const { return m_id; }
 
     // "Spočítat IBAN".
@@ -24,12 +19,10 @@ class BankaDialog : public wxDialog {
 
  private:
     int m_id;
-    std::vector<int> m_menaIds;
     wxTextCtrl* m_zkratka = nullptr;
     wxTextCtrl* m_popis = nullptr;
     wxTextCtrl* m_cislo = nullptr;
     wxTextCtrl* m_kod = nullptr;
     wxTextCtrl* m_iban = nullptr;
     wxTextCtrl* m_bic = nullptr;
-    wxChoice* m_mena = nullptr;
 };

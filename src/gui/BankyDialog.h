@@ -2,15 +2,12 @@
 #pragma once
 
 #include "CiselnikDialog.h"
+#include "BankaDialog.h"
 
-class BankyDialog : public CiselnikDialog {
+class BankyDialog : public FormCiselnikDialog<BankaDialog> {
  public:
     // As a chooser it has "Vybrat", which closes it with the chosen row (chosenId).
     explicit BankyDialog(wxWindow* parent, bool chooser = false);
-
-    void addRow() override;
-    void editRow(int id) override;
-    void copyRow(int id) override;
     void deleteRow(int id) override;
 
  protected:

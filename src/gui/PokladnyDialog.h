@@ -2,15 +2,12 @@
 #pragma once
 
 #include "CiselnikDialog.h"
+#include "PokladnaDialog.h"
 
-class PokladnyDialog : public CiselnikDialog {
+class PokladnyDialog : public FormCiselnikDialog<PokladnaDialog> {
  public:
     // As a chooser it has "Vybrat", which closes it with the chosen row (chosenId).
     explicit PokladnyDialog(wxWindow* parent, bool chooser = false);
-
-    void addRow() override;
-    void editRow(int id) override;
-    void copyRow(int id) override;
     void deleteRow(int id) override;
 
  protected:

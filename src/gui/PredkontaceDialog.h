@@ -2,19 +2,18 @@
 // columns of the same direction are offered).
 #pragma once
 
-#include <wx/dialog.h>
+#include "FormDialog.h"
 
 #include <vector>
 
 class wxCheckBox;
 class wxChoice;
-class wxTextCtrl;
 
-class PredkontaceDialog : public wxDialog {
+class PredkontaceDialog : public FormDialog {
  public:
     // `id` of the edited pre-posting (or of a fresh copy), -1 for a new one.
     PredkontaceDialog(wxWindow* parent, int id = -1);
-    bool save();
+    bool save() override;
     int predkontaceId() const { return m_id; }
 
  private:

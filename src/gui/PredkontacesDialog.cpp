@@ -4,22 +4,10 @@
 
 #include "PredkontaceDialog.h"
 #include "dbmodel.h"
-#include "prompts.h"
 
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
-
-wxArrayString strings(std::initializer_list<const char*> texts) {
-    wxArrayString all;
-    for (const char* t : texts) all.Add(u8(t));
-    return all;
-}
-
-DbModel* openModel() {
-    DbModel* model = DbModel::instance();
-    return model && model->isOpen() ? model : nullptr;
-}
 
 }  // namespace
 
@@ -32,7 +20,7 @@ PredkontacesDialog::PredkontacesDialog(wxWindow* parent, bool chooser, Vyber vyb
     refresh();
 }
 
-std::vector<CiselnikDialog::Row> PredkontacesDialog::rows() {
+std::vector<SeznamDialog::Row> PredkontacesDialog::rows() {
     std::vector<Row> all;
     DbModel* model = openModel();
     if (!model) return all;
@@ -53,15 +41,9 @@ std::vector<CiselnikDialog::Row> PredkontacesDialog::rows() {
     return all;
 }
 
-void PredkontacesDialog::addRow() {
-    PredkontaceDialog dialog(this);
-    dialog.ShowModal();
-}
+void PredkontacesDialog::addRow() { PredkontaceDialog(this).ShowModal(); }
 
-void PredkontacesDialog::editRow(int id) {
-    PredkontaceDialog dialog(this, id);
-    dialog.ShowModal();
-}
+void PredkontacesDialog::editRow(int id) { PredkontaceDialog(this, id).ShowModal(); }
 
 void PredkontacesDialog::copyRow(int id) {
     DbModel* model = openModel();
@@ -77,12 +59,8 @@ void PredkontacesDialog::copyRow(int id) {
 
 void PredkontacesDialog::deleteRow(int id) {
     DbModel* model = openModel();
-    if (!model) return;
-    const Predkontace p = model->getPredkontace(id);
+    const Predkontace p = model ? model->getPredkontace(id) : Predkontace();
     if (!p.isValid()) return;
-    if (!prompts().question(wxString::Format(u8("Opravdu smazat předkontaci %s\n%s?"), p.zkratka(), p.popis()),
-                            u8("Dotaz"), this))
-        return;
-    wxString duvod;
-    if (!model->deletePredkontace(id, &duvod) && !duvod.empty()) prompts().info(duvod, wxString(), this);
+    deleteAfterQuestion(wxString::Format(u8("Opravdu smazat předkontaci %s\n%s?"), p.zkratka(), p.popis()),
+                        [&](wxString* duvod) { return model->deletePredkontace(id, duvod); });
 }

@@ -2,6 +2,7 @@
 
 #include <wx/app.h>
 #include <wx/button.h>
+#include <wx/listctrl.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -132,4 +133,10 @@ int menaIndex(wxChoice* mena, const char* kod) {
     for (unsigned i = 0; i < mena->GetCount(); ++i)
         if (mena->GetString(i).StartsWith(kod)) return static_cast<int>(i);
     return -1;
+}
+
+wxArrayString listTexts(wxListCtrl* list, int column) {
+    wxArrayString texts;
+    for (long i = 0; i < list->GetItemCount(); ++i) texts.Add(list->GetItemText(i, column));
+    return texts;
 }

@@ -16,6 +16,7 @@
 
 class lxBook;
 class lxListCtrl;
+class wxListCtrl;
 
 // Shared by the test headers, which a test may include together.
 #ifndef EVIDA_TEST_U8
@@ -34,6 +35,8 @@ Control* field(wxWindow* parent, const char* name) {
 // Types into a text field as a person does: the field gets the focus, its text is selected and
 // the typed text replaces it, sending the change events the dialog listens to.
 void typeText(wxWindow* dialog, const char* name, const wxString& text);
+// The texts of one column of a dialog's report list, top to bottom.
+wxArrayString listTexts(wxListCtrl* list, int column);
 // Picks an item of a choice as the user would: the choice tells the dialog.
 void choose(wxChoice* choice, int index);
 // The index of the currency `kod` in a currency choice, -1 when it is not offered.

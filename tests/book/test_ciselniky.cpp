@@ -20,12 +20,6 @@ void type(wxWindow* dialog, const char* name, const char* text) {
     field<wxTextCtrl>(dialog, name)->ChangeValue(u8(text));
 }
 
-wxArrayString texts(wxListCtrl* list, int column) {
-    wxArrayString all;
-    for (long i = 0; i < list->GetItemCount(); ++i) all.Add(list->GetItemText(i, column));
-    return all;
-}
-
 }  // namespace
 
 using Ciselniky = BookTest;
@@ -94,8 +88,8 @@ TEST_F(Ciselniky, BankFormComputesTheIbanAndTakesTheBicOfTheChosenBank) {
 TEST_F(Ciselniky, ListsShowBalancesAndRefuseToDeleteTheLastOrAUsedRow) {
     denik("P001", 250, "2024-03-01", "Prodej");
     PokladnyDialog pokladny(m_frame);
-    EXPECT_EQ(texts(pokladny.list(), 0), wxArrayString(1, "POK1"));
-    EXPECT_EQ(texts(pokladny.list(), 2), wxArrayString(1, "250,00"));
+    EXPECT_EQ(listTexts(pokladny.list(), 0), wxArrayString(1, "POK1"));
+    EXPECT_EQ(listTexts(pokladny.list(), 2), wxArrayString(1, "250,00"));
 
     pokladny.selectId(1);
     m_prompts.answerQuestion(true);
@@ -116,7 +110,7 @@ TEST_F(Ciselniky, ListsShowBalancesAndRefuseToDeleteTheLastOrAUsedRow) {
     EXPECT_TRUE(m_model->hasBanka(1));
 
     PredkontacesDialog prijmy(m_frame, /*chooser=*/true, PredkontacesDialog::PRIJMY);
-    const wxArrayString typy = texts(prijmy.list(), 2);
+    const wxArrayString typy = listTexts(prijmy.list(), 2);
     EXPECT_EQ(typy.size(), m_model->predkontacePrijem().size());
     EXPECT_EQ(typy.Index(u8("Výdaj")), wxNOT_FOUND);
 }

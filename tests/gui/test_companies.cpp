@@ -158,6 +158,7 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     addCompany("evida2.db", "Beta", "2");
     ASSERT_TRUE(start()->isLoaded());
     EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_ULOZENA_PRIZNANI));
+    EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_CLENENI_DPH));
     EXPECT_TRUE(m_frame->jizdyShown());
     m_dialogs.then([this](wxDialog* dialog) {
         setText(dialog, "nazev", "Beta");
@@ -178,7 +179,12 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_EQ(statusText(0), u8("Alfa Nova, IČ: 11"));
     EXPECT_EQ(DbModel::instance()->getAdresa(1).ulice(), u8("Dlouhá"));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_ULOZENA_PRIZNANI));
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_CLENENI_DPH));
     EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));  // the filings come later
+    m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
+    command(evidaFrame::ID_CLENENI_DPH);
+    ASSERT_FALSE(m_dialogs.titles.empty());
+    EXPECT_EQ(m_dialogs.titles.back(), u8("Členění DPH"));
     EXPECT_FALSE(m_frame->jizdyShown());
     m_prompts.clear();
     command(evidaFrame::ID_ULOZENA_PRIZNANI);
