@@ -15,6 +15,7 @@
 #include <map>
 
 #include "BankyDialog.h"
+#include "DphDruhyDialog.h"
 #include "KontaktCompleter.h"
 #include "KontaktyDialog.h"
 #include "PokladnyDialog.h"
@@ -272,7 +273,18 @@ void DokladDialog::buildHlavicka(wxFlexGridSizer* grid) {
             druhy.Add(d->zkratka());
     m_dphdruh = new wxComboBox(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(120, -1), druhy, 0,
                                wxDefaultValidator, "dphdruh");
-    cell(grid, m_dphdruh);
+    // The offered classifications are in the combo box; the whole list of the document's side
+    // is one click away.
+    m_dphdruhButton = chooserButton(this, "dphdruhVybrat");
+    m_dphdruhButton->SetToolTip(u8("Vyberte členění DPH"));
+    cell(grid, m_dphdruh, m_dphdruhButton);
+    m_dphdruhButton->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) {
+        DbModel* model = openModel();
+        if (!model) return;
+        DphDruhyDialog dialog(this, true, m_form.prijem() ? DphDruhyDialog::PRIJEM : DphDruhyDialog::VYDAJ);
+        if (dialog.ShowModal() != wxID_OK || dialog.chosenId() < 0) return;
+        m_dphdruh->SetValue(model->getDphDruh(dialog.chosenId()).zkratka());
+    });
 
     if (model)
         for (const auto& u : model->fauhrady()) {
@@ -339,7 +351,10 @@ void DokladDialog::buildDatumy(wxFlexGridSizer* grid) {
     m_vystaveni->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { onVystaveniChanged(); });
     m_duzp->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { onDuzpChanged(); });
     m_splatnost->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { m_splatnostZmenena = true; });
-    m_platce->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) { m_dphdruh->Enable(m_platce->GetValue()); });
+    m_platce->Bind(wxEVT_CHECKBOX, [this](wxCommandEvent&) {
+        m_dphdruh->Enable(m_platce->GetValue());
+        m_dphdruhButton->Enable(m_platce->GetValue());
+    });
 }
 
 void DokladDialog::load() {
@@ -375,6 +390,7 @@ void DokladDialog::load() {
     }
     m_platce->SetValue(m_form.platce);
     m_dphdruh->Enable(m_form.platce);
+    m_dphdruhButton->Enable(m_form.platce);
     showhideKurz();
     refreshPolozky();
 }

@@ -107,6 +107,7 @@ class DokladDialog : public wxDialog {
     wxTextCtrl* m_registr = nullptr;
     wxTextCtrl* m_predkontace = nullptr;
     wxComboBox* m_dphdruh = nullptr;
+    wxButton* m_dphdruhButton = nullptr;
     lxDateCtrl* m_vystaveni = nullptr;
     lxDateCtrl* m_duzp = nullptr;
     lxDateCtrl* m_dppd = nullptr;
