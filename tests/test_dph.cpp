@@ -10,16 +10,6 @@
 
 using ::testing::Contains;
 
-namespace {
-
-wxDateTime day(const char* text) {
-    wxDateTime d;
-    d.ParseISODate(text);
-    return d;
-}
-
-}  // namespace
-
 class Dph : public TestCompany {
  protected:
     void SetUp() override {
@@ -68,13 +58,13 @@ TEST_F(Dph, ClassificationIsValidBetweenItsDaysInclusive) {
         {"R99", "2024-01-01", false},  // no such code
     };
     for (const PlatnostCase& c : cases) {
-        EXPECT_EQ(m_model->isDphDruhValidForDatum(u8(c.zkratka), day(c.datum)), c.platne) << c.zkratka << " " << c.datum;
+        EXPECT_EQ(m_model->isDphDruhValidForDatum(u8(c.zkratka), isoDatum(c.datum)), c.platne) << c.zkratka << " " << c.datum;
     }
     // The two "R24" rows really split the time between them.
     const std::vector<int> r24 = m_model->getDphDruhIdByRadek("24");
     ASSERT_EQ(r24.size(), 2u);
-    EXPECT_EQ(m_model->getDphDruh(r24[0]).validTo(), day("2021-09-30"));
-    EXPECT_EQ(m_model->getDphDruh(r24[1]).validFrom(), day("2021-10-01"));
+    EXPECT_EQ(m_model->getDphDruh(r24[0]).validTo(), isoDatum("2021-09-30"));
+    EXPECT_EQ(m_model->getDphDruh(r24[1]).validFrom(), isoDatum("2021-10-01"));
 }
 
 TEST_F(Dph, OnlyTheSupplierSideOfReverseChargeMakesTheCustomerPay) {

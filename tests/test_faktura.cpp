@@ -13,16 +13,6 @@
 #include "lxsettings.h"
 #include "testcompany.h"
 
-namespace {
-
-wxDateTime iso(const char* text) {
-    wxDateTime d;
-    d.ParseISODate(text);
-    return d;
-}
-
-}  // namespace
-
 TEST(Castky, ItemAmounts) {
     struct Case {
         bool platce, bezDph;
@@ -38,11 +28,11 @@ TEST(Castky, ItemAmounts) {
         {true, false, 2, 56, 12, "2024-05-01", 112 * 12 / 112.0, 112},
     };
     for (const Case& c : cases) {
-        const castky::Polozka p = castky::polozka(c.platce, c.bezDph, c.pocet, c.cena, c.sazba, iso(c.datum));
+        const castky::Polozka p = castky::polozka(c.platce, c.bezDph, c.pocet, c.cena, c.sazba, isoDatum(c.datum));
         EXPECT_NEAR(p.dph, c.dph, 1e-9) << c.datum << " " << c.sazba;
         EXPECT_DOUBLE_EQ(p.celkem, c.celkem) << c.datum;
     }
-    EXPECT_NEAR(castky::polozka(true, false, 1, 121, 21, iso("2019-03-31")).dph, 21.0056, 1e-9);
+    EXPECT_NEAR(castky::polozka(true, false, 1, 121, 21, isoDatum("2019-03-31")).dph, 21.0056, 1e-9);
 }
 
 TEST(Castky, RoundingAndSplit) {
@@ -68,12 +58,7 @@ class Fakturace : public TestCompany {
  protected:
     void SetUp() override {
         TestCompany::SetUp();
-        createCompany();
-        ASSERT_TRUE(m_model->setCurrentRok(2024));
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
-        lxSettings::instance()->setDatum(iso("2024-06-10"));
+        createPlatce2024("2024-06-10");
     }
 
     // A stored issued invoice (or another kind) with items of the given rates and prices
@@ -115,7 +100,7 @@ TEST_F(Fakturace, NewDocumentCancelLeavesNothing) {
     DokladForm form = novyDoklad(*m_model, DruhDokladu::FAKTURA_VYDANA);
     ASSERT_GT(form.id, 0);
     EXPECT_EQ(form.vs, wxString::Format("%d", rada));
-    EXPECT_EQ(form.splatnost, iso("2024-06-10") + wxDateSpan::Days(lxSettings::instance()->splatnost()));
+    EXPECT_EQ(form.splatnost, isoDatum("2024-06-10") + wxDateSpan::Days(lxSettings::instance()->splatnost()));
     addPolozka(form, 21, 100);
     EXPECT_TRUE(zrusitNovyDoklad(*m_model, form));
     EXPECT_EQ(scalar("SELECT count(*) FROM faktura"), faktur);
@@ -160,18 +145,18 @@ TEST_F(Fakturace, ChecksInOrder) {
         {[](DokladForm& f) { f.dphdruh = "R99"; }, "Členění DPH R99 neexistuje", DokladPole::DPHDRUH},
         {[](DokladForm& f) {
              f.dphdruh = "R24";
-             f.duzp = iso("2021-10-01");
-             f.dppd = iso("2021-09-30");
+             f.duzp = isoDatum("2021-10-01");
+             f.dppd = isoDatum("2021-09-30");
          },
          "", DokladPole::ZADNE},  // one of the two R24 rows is valid on either day
         {[](DokladForm& f) {
              f.dphdruh = "R1,2-C";
-             f.duzp = iso("2015-12-31");
+             f.duzp = isoDatum("2015-12-31");
          },
          "Členění DPH R1,2-C není platné pro DUZP 31.12.2015", DokladPole::DUZP},
         {[](DokladForm& f) {
              f.dphdruh = "R1,2-C";
-             f.dppd = iso("2015-12-31");
+             f.dppd = isoDatum("2015-12-31");
          },
          "Členění DPH R1,2-C není platné pro DPPD 31.12.2015", DokladPole::DPPD},
     };
@@ -249,10 +234,10 @@ TEST_F(Fakturace, PaymentSplitsBaseAndVat) {
 TEST_F(Fakturace, PaidExactlyAndOverdue) {
     const DokladForm form = doklad(DruhDokladu::ZAVAZEK, {{0, 1000}});
     ZavPoh z = m_model->getZavPoh(form.id);
-    z.setSplatnost(iso("2024-06-10"));
+    z.setSplatnost(isoDatum("2024-06-10"));
     ASSERT_TRUE(m_model->editZavPoh(z));
     EXPECT_FALSE(m_model->isZavpohPosplatnosti(form.id));  // due today is not overdue
-    lxSettings::instance()->setDatum(iso("2024-06-11"));
+    lxSettings::instance()->setDatum(isoDatum("2024-06-11"));
     EXPECT_TRUE(m_model->isZavpohPosplatnosti(form.id));
     ASSERT_EQ(zaplatit(placenyZavPoh(*m_model, form.id), 999.999), wxString());
     EXPECT_FALSE(m_model->isZavpohUhrazena(form.id));  // short by a thousandth
@@ -271,7 +256,7 @@ TEST_F(Fakturace, ChangedPaidDocumentLosesPaymentsWhenAsked) {
     ASSERT_EQ(zaplatit(placenyFaktura(*m_model, form.id), 242), wxString());
     EXPECT_EQ(m_model->denikUhradForFaktura(form.id).size(), 2u);
     EXPECT_FALSE(dokladZmenen(*m_model, form));
-    form.duzp = iso("2024-06-01");
+    form.duzp = isoDatum("2024-06-01");
     EXPECT_TRUE(dokladZmenen(*m_model, form));
     EXPECT_EQ(dotazZmenenyDoklad(form), u8("Faktura byla změněna\nPoužít nové hodnoty?\n(Úhrady budou smazány)"));
     ASSERT_EQ(ulozitDoklad(*m_model, form, true), wxString());
@@ -290,32 +275,32 @@ TEST_F(Fakturace, DeleteTakesPaymentsEntriesAndItems) {
 
 TEST_F(Fakturace, CopyTakesFreshNumberAndItems) {
     const DokladForm form = doklad(DruhDokladu::FAKTURA_VYDANA, {{21, 121}, {12, 112}});
-    lxSettings::instance()->setDatum(iso("2024-07-01"));
+    lxSettings::instance()->setDatum(isoDatum("2024-07-01"));
     const int kopie = m_model->copyFaktura(form.id);
     ASSERT_GT(kopie, 0);
     const Faktura k = m_model->getFaktura(kopie);
     EXPECT_EQ(k.cislo(), m_model->getCisloDokladu("FV"));
     EXPECT_NE(k.cislo(), m_model->getFaktura(form.id).cislo());
-    EXPECT_EQ(k.vystaveni(), iso("2024-07-01"));
+    EXPECT_EQ(k.vystaveni(), isoDatum("2024-07-01"));
     EXPECT_EQ(m_model->fapolozkyByFakturaId(kopie).size(), 2u);
 }
 
 TEST_F(Fakturace, OpenBalancesInEuroTakeTheYearlyRate) {
     // Today is in 2025: the single rate of 2024 exists and values the 2024 balance.
-    lxutils::setToday(iso("2025-02-01"));
+    lxutils::setToday(isoDatum("2025-02-01"));
     DokladForm form = novyDoklad(*m_model, DruhDokladu::FAKTURA_VYDANA);
     form.menaid = m_model->getMena("EUR").id() > 0 ? m_model->getMena("EUR").id() : 2;
     addPolozka(form, 21, 1000);
     form.kurz = 25.0;
     ASSERT_EQ(ulozitDoklad(*m_model, form), wxString());
     const wxString eur = m_model->kodMena(form.menaid);
-    ASSERT_TRUE(m_model->addKurz(Kurz(m_model->getLastId("kurz"), iso("2024-12-31"), 24.0, eur, true)));
-    ASSERT_TRUE(m_model->addKurz(Kurz(m_model->getLastId("kurz"), iso("2023-12-31"), 23.0, eur, true)));
+    ASSERT_TRUE(m_model->addKurz(Kurz(m_model->getLastId("kurz"), isoDatum("2024-12-31"), 24.0, eur, true)));
+    ASSERT_TRUE(m_model->addKurz(Kurz(m_model->getLastId("kurz"), isoDatum("2023-12-31"), 23.0, eur, true)));
     EXPECT_TRUE(m_model->hasPohledavkyDluhyCizi(2024));
     EXPECT_TRUE(m_model->hasJednotneKurzyForPohledavkyDluhy(2024));
     EXPECT_DOUBLE_EQ(m_model->getPohledavkyStav(2024), 1000 * 24.0);
     // While 2024 is the running year its own single rate does not exist yet: 2023's counts.
-    lxutils::setToday(iso("2024-06-10"));
+    lxutils::setToday(isoDatum("2024-06-10"));
     EXPECT_DOUBLE_EQ(m_model->getPohledavkyStav(2024), 1000 * 23.0);
     EXPECT_DOUBLE_EQ(m_model->getZavazkyStav(2024), 0);
     lxutils::setToday(wxDateTime());

@@ -18,6 +18,12 @@
 #include "lxutils.h"
 #include "schema.h"
 
+wxDateTime isoDatum(const char* text) {
+    wxDateTime d;
+    d.ParseISODate(text);
+    return d;
+}
+
 wxDateTime lxSettingsToday() { return lxSettings::instance()->datum(); }
 
 CliResult runCli(const wxString& args) { return runShell(wxString(EVIDA_CLI) + " " + args); }
@@ -168,4 +174,13 @@ wxString oldSchemaSql(const wxString& version) {
         }
     }
     return sql;
+}
+
+void TestCompany::createPlatce2024(const char* pracovniDatum) {
+    createCompany();
+    ASSERT_TRUE(m_model->setCurrentRok(2024));
+    Firma firma = m_model->firma();
+    firma.setPlatce(true);
+    ASSERT_TRUE(m_model->setFirma(firma));
+    lxSettings::instance()->setDatum(isoDatum(pracovniDatum));
 }

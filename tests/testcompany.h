@@ -15,6 +15,9 @@
 // Czech text in the tests is UTF-8, whatever the process locale.
 inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
+// A day written "2024-03-31"; invalid for a text that is not one.
+wxDateTime isoDatum(const char* text);
+
 // The working date of the application as the model sees it.
 wxDateTime lxSettingsToday();
 
@@ -46,6 +49,8 @@ class TestCompany : public ::testing::Test {
 
     // A new company database as a first start makes it; returns its path.
     wxString createCompany(const wxString& name = "firma.db");
+    // A VAT payer's new company in the year 2024 with the given working date.
+    void createPlatce2024(const char* pracovniDatum);
     // Writes a database file from SQL text (statements separated by ";").
     wxString writeDb(const wxString& name, const wxString& sql);
     // Runs SQL on a file without the model (the file must not be open in the model).

@@ -13,6 +13,7 @@
 #include <optional>
 #include <vector>
 
+#include "dph/dphdoklad.h"
 #include "navigation.h"
 #include "records.h"
 #include "views.h"
@@ -245,6 +246,33 @@ class DbModel {
     // The customer pays the tax: the classification feeds row 25 (reverse charge, supplier).
     bool dphPlatiZakaznik(int id);
     bool kracenyDphDruh(int id);
+
+    // --- documents of a VAT period (dph/dphvyber.cpp) ---
+    // A document falls into [od, do] (both inclusive) by its DPPD when it is an expense
+    // (received invoice, liability) and by its DUZP when it is income.
+    // Whether a VAT payer's document (platce = 1) falls into the period: any at all, or one of
+    // the classifications (with `onlyWithDic`: one whose counterparty has a VAT id).
+    bool someDokladForDph(const wxDateTime& od, const wxDateTime& doDne);
+    bool someDokladForDph(int dphdruhid, const wxDateTime& od, const wxDateTime& doDne, bool onlyWithDic);
+    bool someDokladForDph(const std::vector<int>& dphdruhids, const wxDateTime& od, const wxDateTime& doDne,
+                          bool onlyWithDic);
+    // Basis of the EC sales list: a document with a counterparty's VAT id whose classification
+    // feeds exactly row 20, 21 or 31.
+    bool someDokladForDphSh(const wxDateTime& od, const wxDateTime& doDne);
+    // A document of the period whose classification has a control-statement section (any, or
+    // "A1"); neither asks whether it was a payer's.
+    bool someDokladForDphKh(const wxDateTime& od, const wxDateTime& doDne);
+    bool someDokladForDphKhA1(const wxDateTime& od, const wxDateTime& doDne);
+    // The documents of one classification (or of several, in the order of the ids) in the
+    // period: invoices first, then receivables/liabilities, each in table order.
+    lxDphDokladArray dokladyForDph(int dphdruhid, const wxDateTime& od, const wxDateTime& doDne, bool onlyWithDic);
+    lxDphDokladArray dokladyForDph(const std::vector<int>& dphdruhids, const wxDateTime& od, const wxDateTime& doDne,
+                                   bool onlyWithDic);
+    // By DPPD, ascending; documents of one day keep their order.
+    static void sortDphDoklad(lxDphDokladArray& doklady);
+    static bool isDphSazbySameForDoklad(const lxDphForDokladArray& a, const lxDphForDokladArray& b);
+    wxString kontaktDic(int id);
+    bool hasKontaktDic(int id);
 
     // --- invoices, receivables/liabilities and their items (fakturace/dbmodel_faktura.cpp) ---
     // Adding with `notify` false stores the row without a change notice (the document dialog
