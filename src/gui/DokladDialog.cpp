@@ -27,6 +27,7 @@
 #include "fakturace/polozkaform.h"
 #include "lxformat.h"
 #include "lxsettings.h"
+#include "okbuttons.h"
 #include "prompts.h"
 
 namespace {
@@ -185,21 +186,8 @@ void DokladDialog::build() {
     top->Add(m_polozky, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, 10));
     top->Add(tlacitka, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, 10));
     top->Add(celkemRow, wxSizerFlags().Expand().Border(wxLEFT | wxRIGHT | wxTOP, 10));
-    auto* buttons = new wxStdDialogButtonSizer();
-    auto* ok = new wxButton(this, wxID_OK, "OK");
-    buttons->AddButton(ok);
-    buttons->AddButton(new wxButton(this, wxID_CANCEL, u8("Zrušit")));
-    buttons->Realize();
-    ok->SetDefault();
-    top->Add(buttons, wxSizerFlags().Expand().Border(wxALL, 10));
+    addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
-
-    Bind(
-        wxEVT_BUTTON,
-        [this](wxCommandEvent&) {
-            if (save()) EndModal(wxID_OK);
-        },
-        wxID_OK);
     pridat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { pridatPolozku(); });
     upravit->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { upravitPolozku(); });
     smazat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { smazatPolozku(); });

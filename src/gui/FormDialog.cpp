@@ -7,6 +7,7 @@
 #include <wx/textctrl.h>
 
 #include "dbmodel.h"
+#include "okbuttons.h"
 #include "prompts.h"
 
 FormDialog::FormDialog(wxWindow* parent, const wxString& title) : wxDialog(parent, wxID_ANY, title) {
@@ -54,14 +55,8 @@ int FormDialog::menaId() const {
 void FormDialog::finish() {
     auto* top = new wxBoxSizer(wxVERTICAL);
     top->Add(m_grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
-    top->Add(CreateStdDialogButtonSizer(wxOK | wxCANCEL), wxSizerFlags().Expand().Border(wxALL, 10));
+    addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
-    Bind(
-        wxEVT_BUTTON,
-        [this](wxCommandEvent&) {
-            if (save()) EndModal(wxID_OK);
-        },
-        wxID_OK);
 }
 
 bool FormDialog::refused(const wxString& chyba, wxWindow* field) {

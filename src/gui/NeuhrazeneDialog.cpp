@@ -22,11 +22,6 @@ DbModel* openModel() {
     return model && model->isOpen() ? model : nullptr;
 }
 
-wxDateTime pracovniDatum() {
-    const wxDateTime datum = lxSettings::instance()->datum();
-    return datum.IsValid() ? datum.GetDateOnly() : lxutils::today();
-}
-
 wxListCtrl* newList(wxWindow* parent, const char* name) {
     auto* list = new wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxSize(820, 320), wxLC_REPORT | wxLC_SINGLE_SEL,
                                 wxDefaultValidator, name);
@@ -96,7 +91,7 @@ void NeuhrazeneDialog::refresh() {
     }
     DbModel* model = openModel();
     if (!model) return;
-    const wxDateTime dnes = pracovniDatum();
+    const wxDateTime dnes = pracovniDen();
     for (const auto& f : model->neuhrazeneFakturyView()) {
         const DruhDokladu druh = f->vydana() ? DruhDokladu::FAKTURA_VYDANA : DruhDokladu::FAKTURA_PRIJATA;
         addRow(m_lists[0], *f, u8(f->vydana() ? "Vydaná" : "Přijatá"), dnes);

@@ -11,6 +11,7 @@
 
 #include "controls/lxamountctrl.h"
 #include "lxformat.h"
+#include "okbuttons.h"
 #include "prompts.h"
 
 namespace {
@@ -96,21 +97,8 @@ void PolozkaDialog::build() {
 
     auto* top = new wxBoxSizer(wxVERTICAL);
     top->Add(grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
-    auto* buttons = new wxStdDialogButtonSizer();
-    auto* ok = new wxButton(this, wxID_OK, "OK");
-    buttons->AddButton(ok);
-    buttons->AddButton(new wxButton(this, wxID_CANCEL, u8("Zrušit")));
-    buttons->Realize();
-    ok->SetDefault();
-    top->Add(buttons, wxSizerFlags().Expand().Border(wxALL, 10));
+    addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
-
-    Bind(
-        wxEVT_BUTTON,
-        [this](wxCommandEvent&) {
-            if (save()) EndModal(wxID_OK);
-        },
-        wxID_OK);
     m_pocet->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { recalculate(); });
     m_cenamj->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { recalculate(); });
     if (m_sazba) {

@@ -19,6 +19,7 @@
 #include "controls/lxdatectrl.h"
 #include "dbmodel.h"
 #include "lxsettings.h"
+#include "okbuttons.h"
 #include "prompts.h"
 
 namespace {
@@ -179,22 +180,8 @@ void PrijemVydejDialog::build() {
 
     auto* top = new wxBoxSizer(wxVERTICAL);
     top->Add(grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
-    auto* buttons = new wxStdDialogButtonSizer();
-    auto* ok = new wxButton(this, wxID_OK, "OK");
-    buttons->AddButton(ok);
-    buttons->AddButton(new wxButton(this, wxID_CANCEL, u8("Zrušit")));
-    buttons->Realize();
-    // Enter in a single-line field presses OK, as in any native dialog.
-    ok->SetDefault();
-    top->Add(buttons, wxSizerFlags().Expand().Border(wxALL, 10));
+    addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
-
-    Bind(
-        wxEVT_BUTTON,
-        [this](wxCommandEvent&) {
-            if (save()) EndModal(wxID_OK);
-        },
-        wxID_OK);
     m_typ->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { setBanka(m_typ->GetSelection() == 1); });
     m_mena->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) {
         showhideKurz();

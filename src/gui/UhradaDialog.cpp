@@ -16,6 +16,7 @@
 #include "dbmodel.h"
 #include "denikform.h"
 #include "lxformat.h"
+#include "okbuttons.h"
 #include "prompts.h"
 
 namespace {
@@ -128,21 +129,8 @@ void UhradaDialog::build() {
 
     auto* top = new wxBoxSizer(wxVERTICAL);
     top->Add(grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
-    auto* buttons = new wxStdDialogButtonSizer();
-    auto* ok = new wxButton(this, wxID_OK, "OK");
-    buttons->AddButton(ok);
-    buttons->AddButton(new wxButton(this, wxID_CANCEL, u8("Zrušit")));
-    buttons->Realize();
-    ok->SetDefault();
-    top->Add(buttons, wxSizerFlags().Expand().Border(wxALL, 10));
+    addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
-
-    Bind(
-        wxEVT_BUTTON,
-        [this](wxCommandEvent&) {
-            if (save()) EndModal(wxID_OK);
-        },
-        wxID_OK);
     m_typ->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { setBanka(m_typ->GetSelection() == 1); });
     vybrat->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { chooseRegistr(); });
     stahnout->Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { onKurzDownload(); });

@@ -47,8 +47,7 @@ wxString unpaidSummary(wxSQLite3Database& db, int rok, const char* table, const 
         "LEFT JOIN (SELECT %s AS dokladid, total(castka) AS uhrazeno FROM uhrada WHERE %s IS NOT NULL GROUP BY %s) u "
         "ON u.dokladid=f.id WHERE f.obdobirok=? AND %s",
         table, paidBy, paidBy, paidBy, direction);
-    const wxDateTime dnes =
-        lxSettings::instance()->datum().IsValid() ? lxSettings::instance()->datum().GetDateOnly() : wxDateTime::Today();
+    const wxDateTime dnes = pracovniDen();
     int neuhrazene = 0, poSplatnosti = 0;
     double celkem = 0;
     try {

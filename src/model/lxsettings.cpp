@@ -173,3 +173,8 @@ void lxSettings::deleteFirma(const wxString& key) {
         m_dbname.clear();
     }
 }
+
+wxDateTime pracovniDen() {
+    const wxDateTime datum = lxSettings::instance()->datum();
+    return datum.IsValid() ? datum.GetDateOnly() : lxutils::today();
+}

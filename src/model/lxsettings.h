@@ -88,3 +88,7 @@ class lxSettings {
     wxDateTime m_lastBackup;
     wxString m_backupPath;
 };
+
+// The working date of the program (the application date of the settings), the "today" of
+// overdue documents and of new documents; the clock's today when none is set.
+wxDateTime pracovniDen();

@@ -83,16 +83,13 @@ wxString count(const char* format, size_t n) { return wxString::Format(u8(format
 
 // --- invoices, receivables and liabilities -------------------------------------------------
 
-// The working date of the program is the "today" of overdue documents.
-wxDateTime today() { return pracovniDen(); }
-
 enum Stav { UHRAZENO = 0, NEUHRAZENO = 1, CASTECNE = 2, PO_SPLATNOSTI = 3 };
 
 // The model's own rule of paid and overdue, on the row's summed payments.
 template <class Row>
 Stav stav(const Row& r) {
     if (isDokladUhrazen(r.celkem(), r.uhrazeno())) return UHRAZENO;
-    if (isDokladPoSplatnosti(r.celkem(), r.uhrazeno(), r.splatnost(), today())) return PO_SPLATNOSTI;
+    if (isDokladPoSplatnosti(r.celkem(), r.uhrazeno(), r.splatnost(), pracovniDen())) return PO_SPLATNOSTI;
     return r.uhrazeno() > 0 ? CASTECNE : NEUHRAZENO;
 }
 
@@ -143,7 +140,7 @@ void addDokladFilter(lxPageShape<Row>& shape) {
     };
     // Documents in several currencies add up in home currency, each at its own rate.
     shape.footer = [](const std::vector<const Row*>& rows) {
-        const SouhrnDokladu s = souhrnDokladu(rows, today());
+        const SouhrnDokladu s = souhrnDokladu(rows, pracovniDen());
         return kc("Celkem", s.celkem) + "    " + kc("Uhrazeno", s.uhrazeno) + "    " +
                kc("Neuhrazeno", s.neuhrazeno) + "    " + kc("Po splatnosti", s.poSplatnosti) + "    " +
                count("Dokladů: %d", rows.size());

@@ -9,12 +9,6 @@
 
 namespace {
 
-// The working date of the program is the "today" of overdue documents.
-wxDateTime pracovniDatum() {
-    const wxDateTime datum = lxSettings::instance()->datum();
-    return datum.IsValid() ? datum.GetDateOnly() : lxutils::today();
-}
-
 // The documents of one table picked by `where` and still open at `rok` with their currency
 // and open amount (total − paid, in the document's currency), as one query.
 struct Otevreny {
@@ -89,12 +83,12 @@ bool DbModel::isZavpohUhrazena(int id) {
 
 bool DbModel::isFakturaPosplatnosti(int id) {
     const Faktura f = getFaktura(id);
-    return f.isValid() && isDokladPoSplatnosti(f.celkem(), uhrazenoByFakturaId(id), f.splatnost(), pracovniDatum());
+    return f.isValid() && isDokladPoSplatnosti(f.celkem(), uhrazenoByFakturaId(id), f.splatnost(), pracovniDen());
 }
 
 bool DbModel::isZavpohPosplatnosti(int id) {
     const ZavPoh z = getZavPoh(id);
-    return z.isValid() && isDokladPoSplatnosti(z.celkem(), uhrazenoByZavpohId(id), z.splatnost(), pracovniDatum());
+    return z.isValid() && isDokladPoSplatnosti(z.celkem(), uhrazenoByZavpohId(id), z.splatnost(), pracovniDen());
 }
 
 bool DbModel::someUhradaForFaktura(int id) {

@@ -15,11 +15,6 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
 wxString trimmed(const wxString& text) { return wxString(text).Strip(wxString::both); }
 
-wxDateTime pracovniDatum() {
-    const wxDateTime datum = lxSettings::instance()->datum();
-    return datum.IsValid() ? datum.GetDateOnly() : lxutils::today();
-}
-
 const char* tabulka(const DokladForm& form) { return form.faktura() ? "faktura" : "zavpoh"; }
 const char* sloupecPolozky(const DokladForm& form) { return form.faktura() ? "fakturaid" : "zavpohid"; }
 
@@ -202,7 +197,7 @@ DokladForm novyDoklad(DbModel& model, DruhDokladu druh, int typid) {
     const wxString rada = dokladRada(druh, form.typid);
     form.cislo = model.getCisloDokladu(rada);
     form.vs = wxString::Format("%d", model.getRadaCislo(rada));
-    const wxDateTime datum = pracovniDatum();
+    const wxDateTime datum = pracovniDen();
     form.vystaveni = form.duzp = form.dppd = datum;
     form.splatnost = datum + wxDateSpan::Days(lxSettings::instance()->splatnost());
     form.uhradaid = model.firstFaUhrada();

@@ -13,12 +13,6 @@
 // rate 0 (none entered); it counts as 1.
 inline double vDomaciMene(double castka, double kurz) { return castka * (kurz == 0.0 ? 1.0 : kurz); }
 
-// The working date of the program, the "today" of overdue documents; today when none is set.
-inline wxDateTime pracovniDen() {
-    const wxDateTime datum = lxSettings::instance()->datum();
-    return datum.IsValid() ? datum.GetDateOnly() : lxutils::today();
-}
-
 struct SouhrnDokladu {
     double celkem = 0;        // the documents' totals
     double uhrazeno = 0;      // their payments

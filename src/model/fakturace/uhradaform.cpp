@@ -12,11 +12,6 @@ namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
-wxDateTime pracovniDatum() {
-    const wxDateTime datum = lxSettings::instance()->datum();
-    return datum.IsValid() ? datum.GetDateOnly() : lxutils::today();
-}
-
 double platnyKurz(double kurz) { return kurz > 0 ? kurz : 1.0; }
 
 template <class Doc>
@@ -158,7 +153,7 @@ UhradaForm novaUhrada(DbModel& model, const PlacenyDoklad& doklad) {
         form.registr = model.getPokladnaZkratka(doklad.pokladnaid);
         if (form.registr.empty() && !model.pokladny().empty()) form.registr = model.pokladny().front()->zkratka();
     }
-    form.datum = pracovniDatum();
+    form.datum = pracovniDen();
     form.kurz = doklad.kurz;
     const double zbyva = doklad.zbyva() > 0 ? doklad.zbyva() : 0.0;
     if (doklad.menaid == 1) {
