@@ -6,7 +6,7 @@ set -eu
 
 PACKAGES="build-essential cmake pkg-config git
 libwxgtk3.2-dev libwxsqlite3-3.2-dev libcurl4-openssl-dev libqrcodegencpp-dev libcairo2-dev
-libicu-dev
+libicu-dev libxml2-dev libxml2-utils
 libgtest-dev libgmock-dev libbenchmark-dev wx3.2-i18n
 xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3"
 
