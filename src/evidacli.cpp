@@ -15,6 +15,12 @@
 //   evida-cli neuhrazene FILE
 //                           unpaid invoices, receivables and liabilities of all years up to
 //                           the current one, with the open totals in home currency
+//   evida-cli export dphdp3 FILE --rok Y (--mesic M | --ctvrtleti Q | --od D --do D)
+//                           [--forma B|O|D|E] [--datum D] [--k ID]
+//                           the VAT return of the period as the filing's XML on the standard
+//                           output, computed as the wizard does and checked against the
+//                           official schema (a supplementary return is based on the saved
+//                           return ID, or the newest regular one of the period)
 //
 // Messages are Czech; the technical details of a failure (SQLite's and wxWidgets' own English
 // lines) go to the standard error only with --verbose, which may stand anywhere.
@@ -31,6 +37,7 @@
 #include "dbmodel.h"
 #include "denikimport.h"
 #include "download.h"
+#include "evidacli_export.h"
 #include "fakturace/souhrndokladu.h"
 #include "lxformat.h"
 #include "lxsettings.h"
@@ -67,7 +74,9 @@ int usage() {
                                 "  rates SOUBOR DATUM     kurzy ČNB ke dni (DATUM jako RRRR-MM-DD)\n"
                                 "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
                                 "  stav SOUBOR            stav pokladen a bankovních účtů\n"
-                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n"
+                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n") +
+             evidacli::exportUsage() + "\n" +
+                                wxString::FromUTF8(
                                 "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
 }
@@ -238,6 +247,16 @@ int main(int argc, char** argv) {
 
     if (args.size() < 2) return usage();
     const wxString& command = args[0];
+    if (command == "export" && args.size() >= 3) {
+        MessagePrinter printer;
+        DbModel model(&printer);
+        model.initModel();
+        if (!open(model, wxFileName(args[2]).GetAbsolutePath())) return 1;
+        std::vector<wxString> rest(args.begin() + 1, args.end());
+        rest.erase(rest.begin() + 1);  // the company file, opened above
+        const int status = evidacli::exportPodani(model, rest);
+        return status == 2 ? usage() : status;
+    }
     if (args.size() != (command == "rates" || command == "import" ? 3u : 2u)) return usage();
     const wxString path = wxFileName(args[1]).GetAbsolutePath();
 

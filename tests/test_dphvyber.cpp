@@ -2,43 +2,10 @@
 // the document's year in home currency, the counterparty's VAT id and the existence checks.
 #include <gtest/gtest.h>
 
-#include "fakturace/castky.h"
-#include "fakturace/dokladform.h"
+#include "dphfixture.h"
 #include "lxsettings.h"
-#include "testcompany.h"
 
-class DphVyber : public TestCompany {
- protected:
-    void SetUp() override {
-        TestCompany::SetUp();
-        createPlatce2024("2024-03-20");
-        m_dic = m_model->addKontaktSAdresou(Kontakt(-1, u8("Beta s.r.o."), "", "27082440", "CZ27082440", "", true, -1),
-                                            Adresa(-1, "", "", "", "", ""));
-    }
-    // A payer's document with items (rate, price with VAT) of year `rok`'s rates.
-    DokladForm doklad(DruhDokladu druh, const char* duzp, const char* dppd, const char* dphdruh,
-                      std::vector<std::pair<int, double>> polozky, int rok = 2024, int menaid = 1, double kurz = 1,
-                      bool sDic = true) {
-        DokladForm form = novyDoklad(*m_model, druh);
-        form.duzp = isoDatum(duzp);
-        form.dppd = isoDatum(dppd);
-        form.dphdruh = dphdruh;
-        form.menaid = menaid;
-        form.kurz = kurz;
-        form.protistrana = sDic ? u8("Beta s.r.o.") : u8("Bez DIČ");
-        for (const auto& [sazba, cena] : polozky) {
-            const castky::Polozka c = castky::polozka(true, false, 1, cena, sazba, form.duzp);
-            EXPECT_TRUE(m_model->addFaPolozka(FaPolozka(m_model->getLastId("fapolozka"), "", "", 1, cena,
-                                                        m_model->getDphSazbaId(sazba, rok), c.dph, c.celkem, false,
-                                                        form.faktura() ? form.id : -1, form.faktura() ? -1 : form.id,
-                                                        -1, false)));
-        }
-        EXPECT_EQ(ulozitDoklad(*m_model, form), wxString()) << dphdruh;
-        return form;
-    }
-    int druh(const char* zkratka) { return m_model->getDphDruhIdByZkratka(zkratka); }
-    int m_dic = -1;
-};
+using DphVyber = DphFixture;
 
 TEST_F(DphVyber, ExpensesByDppdIncomeByDuzp) {
     doklad(DruhDokladu::FAKTURA_PRIJATA, "2024-03-20", "2024-04-02", "R40,41", {{21, 121}});

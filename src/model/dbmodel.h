@@ -105,6 +105,8 @@ class DbModel {
     const Firma& firma() const { return m_firma; }
     const Smtp& smtp() const { return m_smtp; }
     const Priznani& priznani() const { return m_priznani; }
+    // Stores the taxpayer record (the one row of its table).
+    bool setPriznani(const Priznani& p);
 
     // --- the company (dbmodel_firma.cpp) ---
     // Inserts the one company row when there is none, else updates it (never its address).
@@ -273,6 +275,24 @@ class DbModel {
     static bool isDphSazbySameForDoklad(const lxDphForDokladArray& a, const lxDphForDokladArray& b);
     wxString kontaktDic(int id);
     bool hasKontaktDic(int id);
+
+    // --- saved filings (dph/dbmodel_ulozene.cpp) ---
+    // ulozene() lists them sorted by sortUlozene: by kind, period start, order of saving.
+    static void sortUlozene(lxUlozeneArray& rows);
+    int getUlozeneCount();
+    // The saved filing of that kind (0 return, 1 EC sales list, 2 control statement), form
+    // code, period kind and dates; 0 / false when there is none (the newest when several).
+    int getUlozeneId(int typ, const wxString& forma, int obdobi, const wxDateTime& od, const wxDateTime& doDne);
+    bool hasUlozene(int typ, const wxString& forma, int obdobi, const wxDateTime& od, const wxDateTime& doDne);
+    bool someUlozeneDphShv();
+    lxUlozeneArray ulozeneDphShv();
+    // VAT returns of a year; with `onlyRegular` only the regular and corrective ones.
+    bool someUlozeneDphDp3(int rok, bool onlyRegular);
+    lxUlozeneArray ulozeneDphDp3(int rok, bool onlyRegular);
+    wxString ulozeneXml(int id);
+    // Saves a finished filing and returns its id (0 on failure): a filing of the same kind,
+    // form and period replaces the stored one, a follow-up filing is added beside it.
+    int ulozitPodani(Ulozene u);
 
     // --- invoices, receivables/liabilities and their items (fakturace/dbmodel_faktura.cpp) ---
     // Adding with `notify` false stores the row without a change notice (the document dialog

@@ -109,11 +109,6 @@ lxOdeslanyArray DbModel::odeslane() {
     return recordio::query<Odeslany>(m_db, "SELECT * FROM odeslany ORDER BY cas, id");
 }
 
-lxUlozeneArray DbModel::ulozene() {
-    if (isForeignStorage()) return {};
-    return recordio::query<Ulozene>(m_db, "SELECT * FROM ulozene ORDER BY id");
-}
-
 lxDphDruhArray DbModel::dphdruhy() {
     if (isForeignStorage()) return {};
     return recordio::query<DphDruh>(m_db, "SELECT * FROM dphdruh ORDER BY id");

@@ -1,0 +1,19 @@
+// The filings that evida-cli writes: the same computation as the wizards, the XML on the
+// standard output, checked against the official schema first.
+#pragma once
+
+#include <wx/string.h>
+
+#include <vector>
+
+class DbModel;
+
+namespace evidacli {
+
+// `args` are the words after "export": the filing's name, the file, the options. Returns the
+// exit status: 0 written, 1 refused (the reason on the standard error), 2 wrong usage.
+int exportPodani(DbModel& model, const std::vector<wxString>& args);
+// The usage lines of the command.
+wxString exportUsage();
+
+}  // namespace evidacli
