@@ -118,7 +118,7 @@ wxString exportUsage() {
 
 int exportPodani(DbModel& model, const std::vector<wxString>& args) {
     std::map<wxString, wxString> options;
-    if (args.size() < 2 || !readOptions(args, 2, &options)) return 2;
+    if (args.empty() || !readOptions(args, 1, &options)) return 2;
     if (args[0] == "dphdp3") return exportDphdp3(model, options);
     return 2;
 }

@@ -10,7 +10,7 @@ class DbModel;
 
 namespace evidacli {
 
-// `args` are the words after "export": the filing's name, the file, the options. Returns the
+// `args` are the words after "export" without the company file: the filing's name, then the options. Returns the
 // exit status: 0 written, 1 refused (the reason on the standard error), 2 wrong usage.
 int exportPodani(DbModel& model, const std::vector<wxString>& args);
 // The usage lines of the command.

@@ -217,3 +217,36 @@ TEST(Dp3Vyporadani, CoefficientAndChangeOfDeduction) {
 }
 
 }  // namespace
+
+namespace {
+
+// evida-cli computes the same return as the wizard and refuses what the tax office would.
+TEST_F(Dp3, CliExportsTheSameValidReturn) {
+    doklad(DruhDokladu::FAKTURA_VYDANA, "2024-03-05", "2024-03-05", "R1,2", {{21, 1210}});
+    const wxString path = m_model->databasePath();
+    const std::string expected = vypocet(3, "B").createXml();
+    m_model->closeDatabase();
+    const CliResult r = runCli("export dphdp3 " + path + " --rok 2024 --mesic 3 --datum 20.4.2024");
+    EXPECT_EQ(r.status, 0) << r.output;
+    EXPECT_EQ(r.output, expected);
+    const CliResult q = runShell("LC_ALL=cs_CZ.UTF-8 EVIDA_CLI export dphdp3 " + path +
+                                 " --rok 2024 --od 1.1.2024 --do 31.3.2024 --forma B");
+    EXPECT_EQ(q.status, 0) << q.output;
+    EXPECT_NE(q.output.find("zdobd_od=\"01.01.2024\""), std::string::npos) << q.output;
+    EXPECT_NE(q.output.find("obrat23=\"1000\""), std::string::npos);
+
+    struct { const char* args; int status; const char* message; } refused[] = {
+        {" --rok 2024 --mesic 13", 1, "Neplatný rok nebo měsíc"},
+        {" --rok 2024", 1, "Zadejte období"},
+        {" --rok 2024 --mesic 3 --forma X", 1, "Forma přiznání musí být B, O, D nebo E"},
+        {" --rok 2024 --mesic 3 --forma D", 1, "Dodatečné přiznání potřebuje uložené přiznání"},
+        {" --rok 2024 --mesic", 2, "Použití"},
+    };
+    for (const auto& c : refused) {
+        const CliResult bad = runCli("export dphdp3 " + path + c.args);
+        EXPECT_EQ(bad.status, c.status) << c.args;
+        EXPECT_NE(bad.output.find(u8(c.message).utf8_str().data()), std::string::npos) << bad.output;
+    }
+}
+
+}  // namespace
