@@ -44,6 +44,14 @@ class DialogPrompts : public Prompts {
         if (initial >= 0 && initial < static_cast<int>(choices.size())) dlg.SetSelection(initial);
         return dlg.ShowModal() == wxID_OK ? dlg.GetSelection() : -1;
     }
+    bool multiChoice(const wxString& message, const wxString& caption, const wxArrayString& choices,
+                     wxArrayInt* selections, wxWindow* parent) override {
+        wxMultiChoiceDialog dlg(parent, message, caption, choices);
+        dlg.SetSelections(*selections);
+        if (dlg.ShowModal() != wxID_OK) return false;
+        *selections = dlg.GetSelections();
+        return true;
+    }
     wxString chooseDirectory(const wxString& message, const wxString& start, wxWindow* parent) override {
         wxDirDialog dlg(parent, message, start);
         return dlg.ShowModal() == wxID_OK ? dlg.GetPath() : wxString();
@@ -138,6 +146,16 @@ int ScriptedPrompts::singleChoice(const wxString& message, const wxString& capti
     const int index = m_choices.front();
     m_choices.pop_front();
     return index < static_cast<int>(choices.size()) ? index : -1;
+}
+
+bool ScriptedPrompts::multiChoice(const wxString& message, const wxString& caption, const wxArrayString& choices,
+                                  wxArrayInt* selections, wxWindow*) {
+    m_shown.push_back({"choices", message, caption});
+    lastChoices = choices;
+    if (m_multi.empty()) return false;
+    *selections = m_multi.front();
+    m_multi.pop_front();
+    return true;
 }
 
 wxString ScriptedPrompts::chooseDirectory(const wxString& message, const wxString&, wxWindow*) {

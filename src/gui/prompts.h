@@ -4,6 +4,7 @@
 #pragma once
 
 #include <wx/arrstr.h>
+#include <wx/dynarray.h>
 #include <wx/string.h>
 
 #include <deque>
@@ -32,6 +33,9 @@ class Prompts {
     virtual int singleChoice(const wxString& message, const wxString& caption, const wxArrayString& choices,
                              int initial = 0, wxWindow* parent = nullptr) = 0;
     // A directory chooser; empty on Cancel.
+    // Several of the choices; false on Cancel. *selections holds the chosen indexes.
+    virtual bool multiChoice(const wxString& message, const wxString& caption, const wxArrayString& choices,
+                             wxArrayInt* selections, wxWindow* parent = nullptr) = 0;
     virtual wxString chooseDirectory(const wxString& message, const wxString& start, wxWindow* parent = nullptr) = 0;
     // A file chooser for opening (save = false) or saving; empty on Cancel.
     virtual wxString chooseFile(const wxString& message, const wxString& start, const wxString& defaultName,
@@ -52,7 +56,7 @@ void setPrompts(Prompts* prompts);
 class ScriptedPrompts : public Prompts {
    public:
     struct Shown {
-        wxString kind;  // "info", "error", "question", "text", "number", "choice", "directory", "file"
+        wxString kind;  // "info", "error", "question", "text", "number", "choice", "choices", "directory", "file"
         wxString text;
         wxString caption;
     };
@@ -62,6 +66,8 @@ class ScriptedPrompts : public Prompts {
     void cancelText() { m_texts.push_back(CANCEL); }
     void answerNumber(long number) { m_numbers.push_back(number); }
     void answerChoice(int index) { m_choices.push_back(index); }
+    // The indexes chosen in the next multiple choice (an unqueued one is cancelled).
+    void answerChoices(const wxArrayInt& indexes) { m_multi.push_back(indexes); }
     void answerPath(const wxString& path) { m_paths.push_back(path); }
     // The file type chosen with the next saved path (0 when none is queued).
     void answerFileType(int type) { m_types.push_back(type); }
@@ -79,6 +85,8 @@ class ScriptedPrompts : public Prompts {
                      long max, wxWindow*) override;
     int singleChoice(const wxString& message, const wxString& caption, const wxArrayString& choices, int initial,
                      wxWindow*) override;
+    bool multiChoice(const wxString& message, const wxString& caption, const wxArrayString& choices,
+                     wxArrayInt* selections, wxWindow*) override;
     wxString chooseDirectory(const wxString& message, const wxString& start, wxWindow*) override;
     wxString chooseFile(const wxString& message, const wxString& start, const wxString& defaultName,
                         const wxString& wildcard, bool save, wxWindow*) override;
@@ -97,6 +105,7 @@ class ScriptedPrompts : public Prompts {
     std::deque<wxString> m_texts;
     std::deque<long> m_numbers;
     std::deque<int> m_choices;
+    std::deque<wxArrayInt> m_multi;
     std::deque<wxString> m_paths;
     std::deque<int> m_types;
 };
