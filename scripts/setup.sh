@@ -8,7 +8,7 @@ PACKAGES="build-essential cmake pkg-config git
 libwxgtk3.2-dev libwxsqlite3-3.2-dev libcurl4-openssl-dev libqrcodegencpp-dev libcairo2-dev
 libicu-dev libxml2-dev libxml2-utils
 libgtest-dev libgmock-dev libbenchmark-dev wx3.2-i18n
-xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3"
+xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3 locales"
 
 missing=""
 for p in $PACKAGES; do
@@ -17,18 +17,28 @@ for p in $PACKAGES; do
     fi
 done
 
-if [ -z "$missing" ]; then
-    echo "setup: all packages present"
-    exit 0
-fi
-
 if [ "$(id -u)" -eq 0 ]; then
     SUDO=""
 else
     SUDO="sudo"
 fi
 
+# Tests check that exports keep a decimal point under the Czech locale, so it must exist.
+czech_locale() {
+    if ! locale -a 2>/dev/null | grep -qi '^cs_CZ\.utf-\?8$'; then
+        echo "setup: generating the cs_CZ.UTF-8 locale"
+        $SUDO localedef -i cs_CZ -f UTF-8 cs_CZ.UTF-8
+    fi
+}
+
+if [ -z "$missing" ]; then
+    echo "setup: all packages present"
+    czech_locale
+    exit 0
+fi
+
 echo "setup: installing$missing"
 $SUDO env DEBIAN_FRONTEND=noninteractive apt-get update -q
 # shellcheck disable=SC2086
 $SUDO env DEBIAN_FRONTEND=noninteractive apt-get install -y -q --no-install-recommends $missing
+czech_locale

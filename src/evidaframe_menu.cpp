@@ -7,6 +7,7 @@
 #include "DphDruhyDialog.h"
 #include "FauhradyDialog.h"
 #include "PredkontacesDialog.h"
+#include "SeznamDphDialog.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
 #include "evidaframe.h"
@@ -72,11 +73,12 @@ const int LATER_ITEMS[] = {
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
-// The six VAT commands are for VAT payers only. Of them "Uložená přiznání" and "Členění DPH"
-// work yet: the VAT return, the control statement, the EC sales list and the VAT document
-// list come with the tax part of the program, and their items stay disabled even for a VAT
-// payer until then.
-const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH};
+// The six VAT commands are for VAT payers only. Of them "Uložená přiznání", "Členění DPH" and
+// "Seznam dokladů k DPH" work yet: the VAT return, the control statement and the EC sales list
+// come with the tax part of the program, and their items stay disabled even for a VAT payer
+// until then.
+const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH,
+                               evidaFrame::ID_DPH_SEZNAM};
 
 bool isVatItemReady(int id) {
     for (int ready : VAT_ITEMS_READY) {
@@ -196,6 +198,12 @@ void evidaFrame::createMenuBar() {
             if (m_model && m_model->isFirmaPlatce()) showCodeList<DphDruhyDialog>(this, m_model.get());
         },
         ID_CLENENI_DPH);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            if (m_model && m_model->isFirmaPlatce()) showCodeList<SeznamDphDialog>(this, m_model.get());
+        },
+        ID_DPH_SEZNAM);
     Bind(wxEVT_MENU, &evidaFrame::onUlozenaPriznani, this, ID_ULOZENA_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onZalohovat, this, ID_ZALOHOVAT);
     Bind(wxEVT_MENU, &evidaFrame::onObnovit, this, ID_OBNOVIT);

@@ -180,11 +180,15 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_EQ(DbModel::instance()->getAdresa(1).ulice(), u8("Dlouhá"));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_ULOZENA_PRIZNANI));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_CLENENI_DPH));
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_SEZNAM));
     EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));  // the filings come later
     m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
     command(evidaFrame::ID_CLENENI_DPH);
     ASSERT_FALSE(m_dialogs.titles.empty());
     EXPECT_EQ(m_dialogs.titles.back(), u8("Členění DPH"));
+    m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
+    command(evidaFrame::ID_DPH_SEZNAM);
+    EXPECT_EQ(m_dialogs.titles.back(), u8("Seznam dokladů DPH"));
     EXPECT_FALSE(m_frame->jizdyShown());
     m_prompts.clear();
     command(evidaFrame::ID_ULOZENA_PRIZNANI);
