@@ -1,5 +1,7 @@
 // A real HTTP file server on loopback for download tests: Python's http.server serving a
-// directory, started on a free port and stopped with the object.
+// directory, started on a free port and stopped with the object. A test that needs another
+// answer to its requests gives its own Python program, run with the directory as its argument;
+// it must print the same first line as http.server ("Serving HTTP on ... port N ...").
 #pragma once
 
 #include <fcntl.h>
@@ -16,7 +18,7 @@
 
 class LoopbackHttpServer {
  public:
-    explicit LoopbackHttpServer(const wxString& directory) {
+    explicit LoopbackHttpServer(const wxString& directory, const char* script = nullptr) {
         int out[2];
         if (pipe(out) != 0) return;
         m_pid = fork();
@@ -28,8 +30,12 @@ class LoopbackHttpServer {
             close(out[1]);
             const std::string dir(directory.utf8_str());
             const char* python = access("/usr/bin/python3", X_OK) == 0 ? "/usr/bin/python3" : "python3";
-            execlp(python, python, "-u", "-m", "http.server", "0", "--bind", "127.0.0.1", "--directory", dir.c_str(),
-                   static_cast<char*>(nullptr));
+            if (script) {
+                execlp(python, python, "-u", "-c", script, dir.c_str(), static_cast<char*>(nullptr));
+            } else {
+                execlp(python, python, "-u", "-m", "http.server", "0", "--bind", "127.0.0.1", "--directory",
+                       dir.c_str(), static_cast<char*>(nullptr));
+            }
             _exit(127);
         }
         close(out[1]);

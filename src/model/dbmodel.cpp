@@ -311,7 +311,6 @@ Record readOneRow(wxSQLite3Database& db, const wxString& sql) {
 
 void DbModel::fillFirma() { m_firma = readOneRow<Firma>(m_db, "SELECT * FROM firma"); }
 void DbModel::fillSmtp() { m_smtp = readOneRow<Smtp>(m_db, "SELECT * FROM smtp"); }
-void DbModel::fillPriznani() { m_priznani = readOneRow<Priznani>(m_db, "SELECT * FROM priznani"); }
 
 // ---------------------------------------------------------------- notifications
 

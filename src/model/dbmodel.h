@@ -101,12 +101,15 @@ class DbModel {
     void fillData();
     void fillFirma();
     void fillSmtp();
+    // The stored taxpayer record, or a new one filled from the company while none is stored
+    // (dph/dbmodel_priznani.cpp).
     void fillPriznani();
     const Firma& firma() const { return m_firma; }
     const Smtp& smtp() const { return m_smtp; }
     const Priznani& priznani() const { return m_priznani; }
-    // Stores the taxpayer record (the one row of its table).
-    bool setPriznani(const Priznani& p);
+    // Stores the taxpayer record as the one row of its table, with the state always
+    // "ČESKÁ REPUBLIKA" (dph/dbmodel_priznani.cpp).
+    bool setPriznani(const Priznani& priznani);
 
     // --- the company (dbmodel_firma.cpp) ---
     // Inserts the one company row when there is none, else updates it (never its address).

@@ -55,19 +55,3 @@ bool DbModel::setSmtp(const Smtp& smtp) {
     fireUpdated(NAV_NONE);
     return true;
 }
-
-bool DbModel::setPriznani(const Priznani& p) {
-    if (isForeignStorage()) return false;
-    // The table holds the one taxpayer record: it is replaced whole, in one transaction.
-    try {
-        WriteTransaction tx(m_db);
-        m_db.ExecuteUpdate("DELETE FROM priznani");
-        if (!recordio::insert(m_db, p)) return false;
-        tx.commit();
-    } catch (const wxSQLite3Exception& e) {
-        sqllog::error("priznani", e);
-        return false;
-    }
-    m_priznani = p;
-    return true;
-}
