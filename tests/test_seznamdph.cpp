@@ -76,7 +76,8 @@ TEST_F(SeznamDph, SectionsOfTheSeedAreAllKnownRows) {
             listed.insert(r);
         }
     for (const wxString& r : seeded) {
-        if (r != "0") EXPECT_TRUE(listed.count(r)) << r;
+        if (r == "0") continue;  // outside VAT
+        EXPECT_TRUE(listed.count(r)) << r;
     }
 }
 
@@ -138,6 +139,7 @@ TEST_F(SeznamDph, ForeignDocumentInHomeCurrencyItsTotalInItsOwn) {
 
 TEST_F(SeznamDph, DocumentsOfYearsWithOtherRatesFormTwoBlocksEachWithHeaderAndTotal) {
     // A received invoice of 2023 (rates 21, 15, 10) whose right to deduct arose in January 2024.
+    ASSERT_TRUE(m_model->addObdobi(Obdobi(2023, false)));
     const DokladForm stary = dphDoklad(*m_model, DruhDokladu::FAKTURA_PRIJATA, "2023-12-28", "2024-01-03", "R40,41",
                                        {{21, 121}, {10, 110}}, wxString(), "Beta s.r.o.", 1, 1, 2023);
     m_model->db().ExecuteUpdate(wxString::Format("UPDATE faktura SET obdobirok=2023 WHERE id=%d", stary.id));

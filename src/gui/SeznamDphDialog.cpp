@@ -109,7 +109,9 @@ wxString SeznamDphDialog::exportSeznamu() {
     if (!name.HasExt()) name.SetExt("csv");
     path = name.GetFullPath();
 
-    const wxScopedCharBuffer bytes = seznamdph::csv(seznamdph::seznam(*model, o.od, o.doDne)).utf8_str();
+    // The text must outlive its UTF-8 buffer, which may point into it.
+    const wxString csv = seznamdph::csv(seznamdph::seznam(*model, o.od, o.doDne));
+    const wxScopedCharBuffer bytes = csv.utf8_str();
     // Written beside the target and renamed over it at the end, so that a failed write leaves
     // an existing file as it was.
     wxTempFile file;

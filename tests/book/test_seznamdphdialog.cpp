@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <wx/button.h>
 #include <wx/ffile.h>
+#include <wx/filefn.h>
+#include <wx/utils.h>
 #include <wx/radiobut.h>
 #include <wx/textctrl.h>
 
@@ -165,4 +167,6 @@ TEST_F(SeznamDphDialogTest, PrintOfAQuarterHasItsSectionsColumnsAndTotals) {
     EXPECT_THAT(treti, HasSubstr("Ze zdanitelných plnění vykázaných na řádcích 3 až 13"));
     EXPECT_THAT(treti, HasSubstr("500.00"));
     EXPECT_EQ(PrintTest::pdfInfo(pdf)["Title"], u8("Seznam dokladů DPH"));
+    wxString shots;  // kept for a person to look at, as the screenshots are
+    if (wxGetEnv("EVIDA_SCREENSHOTS", &shots) && !shots.empty()) wxCopyFile(pdf, shots + "/seznamdph.pdf");
 }

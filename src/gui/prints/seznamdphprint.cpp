@@ -46,7 +46,7 @@ wxString SeznamDphPrint::obdobiText(const wxDateTime& od, const wxDateTime& doDn
 void SeznamDphPrint::build(const wxString& firma, const wxString& obdobi,
                            const std::vector<seznamdph::Sekce>& sekce) {
     m_layout.headerLeftText = firma;
-    m_layout.headerCenterText = m_title + "  " + obdobi;
+    m_layout.headerCenterText = m_title;
     m_layout.headerRightText = obdobi;
     m_layout.headerLine = true;
     // Wide sections (three rates of older years) do not fit a portrait sheet anyway.
