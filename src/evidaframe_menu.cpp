@@ -5,6 +5,8 @@
 #include <iterator>
 
 #include "DphDruhyDialog.h"
+#include "Dphdp3Wizard.h"
+#include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
 #include "PredkontacesDialog.h"
 #include "SeznamDphDialog.h"
@@ -73,12 +75,10 @@ const int LATER_ITEMS[] = {
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
-// The six VAT commands are for VAT payers only. Of them "Uložená přiznání", "Členění DPH" and
-// "Seznam dokladů k DPH" work yet: the VAT return, the control statement and the EC sales list
-// come with the tax part of the program, and their items stay disabled even for a VAT payer
-// until then.
+// The six VAT commands are for VAT payers only. The control statement and the EC sales list
+// are not part of the program yet: their items stay disabled even for a VAT payer.
 const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH,
-                               evidaFrame::ID_DPH_SEZNAM};
+                               evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_DPH_PRIZNANI};
 
 bool isVatItemReady(int id) {
     for (int ready : VAT_ITEMS_READY) {
@@ -204,6 +204,14 @@ void evidaFrame::createMenuBar() {
             if (m_model && m_model->isFirmaPlatce()) showCodeList<SeznamDphDialog>(this, m_model.get());
         },
         ID_DPH_SEZNAM);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            if (!m_model || !m_model->isOpen() || !m_model->isFirmaPlatce() || !ensureCiselniky(this, true)) return;
+            Dphdp3Wizard wizard(this, m_model.get());
+            wizard.run();
+        },
+        ID_DPH_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onUlozenaPriznani, this, ID_ULOZENA_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onZalohovat, this, ID_ZALOHOVAT);
     Bind(wxEVT_MENU, &evidaFrame::onObnovit, this, ID_OBNOVIT);

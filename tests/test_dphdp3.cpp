@@ -2,6 +2,7 @@
 // the derived rows, supplementary returns, the settlement coefficient, the XML the tax
 // administration accepts (checked against its schema) and the saved filings.
 #include <gtest/gtest.h>
+#include <wx/ffile.h>
 #include <wx/filename.h>
 
 #include <clocale>
@@ -247,6 +248,45 @@ TEST_F(Dp3, CliExportsTheSameValidReturn) {
         EXPECT_EQ(bad.status, c.status) << c.args;
         EXPECT_NE(bad.output.find(u8(c.message).utf8_str().data()), std::string::npos) << bad.output;
     }
+}
+
+}  // namespace
+
+namespace {
+
+// The whole XML of small companies' returns against files checked by hand; each is valid by
+// the official schema. EVIDA_UPDATE_GOLDEN=1 rewrites the files after a deliberate change.
+void porovnejSeVzorem(const Dphdp3& p, const char* name) {
+    const wxString path = wxString(EVIDA_TEST_DATA) + "/dphdp3/" + name;
+    const std::string xml = p.createXml();
+    EXPECT_EQ(lxutils::validateXml(xml, lxutils::xsdDir() + "/dphdp3_epo2.xsd"), "") << name;
+    if (wxGetenv("EVIDA_UPDATE_GOLDEN")) {
+        wxFFile out(path, "wb");
+        out.Write(xml.data(), xml.size());
+    }
+    EXPECT_EQ(xml, fileBytes(path)) << name;
+}
+
+TEST_F(Dp3, GoldenReturnsOfSmallCompanies) {
+    // A craftsman's March: sales at both rates, a purchase, a reduced-deduction car lease,
+    // construction work under reverse charge received, goods to Germany, an exempt rent.
+    doklad(DruhDokladu::FAKTURA_VYDANA, "2024-03-04", "2024-03-04", "R1,2", {{21, 24200}, {12, 5600}});
+    doklad(DruhDokladu::FAKTURA_PRIJATA, "2024-02-28", "2024-03-01", "R40,41", {{21, 12100}});
+    doklad(DruhDokladu::ZAVAZEK, "2024-03-15", "2024-03-15", "R40,41-K", {{21, 7260}});
+    doklad(DruhDokladu::FAKTURA_PRIJATA, "2024-03-18", "2024-03-18", "R10,11,43,44-4", {{21, 36300}});
+    doklad(DruhDokladu::FAKTURA_VYDANA, "2024-03-20", "2024-03-20", "R20", {{0, 48000}});
+    doklad(DruhDokladu::POHLEDAVKA, "2024-03-31", "2024-03-31", "R50", {{0, 9000}});
+    porovnejSeVzorem(vypocet(3, "B", 85), "brezen2024.xml");
+
+    // The second quarter with nothing but a purchase: an excess deduction.
+    doklad(DruhDokladu::FAKTURA_PRIJATA, "2024-05-02", "2024-05-06", "R40,41", {{12, 1120}});
+    Dp3Zadani z;
+    z.obdobi = DphObdobi::zCtvrtleti(2024, 2);
+    z.datumPodani = isoDatum("2024-07-20");
+    z.kodZo = "M";
+    Dphdp3 q;
+    ASSERT_TRUE(dp3::fillData(*m_model, q, z));
+    porovnejSeVzorem(q, "ctvrtleti2-2024.xml");
 }
 
 }  // namespace

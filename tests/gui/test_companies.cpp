@@ -181,7 +181,16 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_ULOZENA_PRIZNANI));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_CLENENI_DPH));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_SEZNAM));
-    EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));  // the filings come later
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));
+    EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_KONTROLNI));  // the other filings come later
+    EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_SOUHRNNE));
+    // Without the tax administration's code lists the return asks to download them first;
+    // declined, no wizard opens.
+    const size_t dialogy = m_dialogs.titles.size();
+    m_prompts.clear();
+    command(evidaFrame::ID_DPH_PRIZNANI);
+    EXPECT_EQ(m_prompts.transcript(), u8("Je třeba stáhnout číselníky potřebné pro přiznání.\nStáhnout teď?\n"));
+    EXPECT_EQ(m_dialogs.titles.size(), dialogy);
     m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
     command(evidaFrame::ID_CLENENI_DPH);
     ASSERT_FALSE(m_dialogs.titles.empty());

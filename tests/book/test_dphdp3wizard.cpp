@@ -1,0 +1,170 @@
+// The VAT return wizard driven page by page as a person does: the period typed, a coefficient
+// refused and corrected, the kind chosen, the export to a file checked by the official
+// schema, saving on finishing, and a supplementary return built on the saved one.
+#include <gmock/gmock.h>
+#include <wx/button.h>
+#include <wx/choice.h>
+#include <wx/radiobut.h>
+#include <wx/textctrl.h>
+
+#include "Dphdp3Wizard.h"
+#include "booktest.h"
+#include "controls/lxdatectrl.h"
+#include "dphdoklady.h"
+#include "podanipages.h"
+
+using ::testing::HasSubstr;
+
+namespace {
+
+void select(wxWindow* parent, const char* name) {
+    auto* radio = field<wxRadioButton>(parent, name);
+    ASSERT_TRUE(radio) << name;
+    radio->SetValue(true);
+    wxCommandEvent event(wxEVT_RADIOBUTTON, radio->GetId());
+    event.SetEventObject(radio);
+    radio->ProcessWindowEvent(event);
+}
+
+void typeDate(wxWindow* parent, const char* name, const char* text) {
+    typeText(parent, (std::string(name) + "Text").c_str(), wxString::FromUTF8(text));
+    if (auto* date = field<lxDateCtrl>(parent, name)) date->commitText();
+}
+
+// Presses "Další" (or "Dokončit") as the wizard's own button does.
+void next(wxWizard& wizard) {
+    wxWindow* button = wizard.FindWindow(wxID_FORWARD);
+    ASSERT_TRUE(button);
+    wxCommandEvent event(wxEVT_BUTTON, wxID_FORWARD);
+    event.SetEventObject(button);
+    button->ProcessWindowEvent(event);
+}
+
+void press(wxWindow* parent, const char* name) {
+    auto* button = field<wxButton>(parent, name);
+    ASSERT_TRUE(button) << name;
+    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
+    event.SetEventObject(button);
+    button->ProcessWindowEvent(event);
+}
+
+}  // namespace
+
+class Dphdp3WizardTest : public BookTest {
+ protected:
+    void SetUp() override {
+        BookTest::SetUp();
+        Firma firma = m_model->firma();
+        firma.setPlatce(true);
+        ASSERT_TRUE(m_model->setFirma(firma));
+        Priznani p = m_model->priznani();
+        p.setJmeno(u8("Jan"));
+        p.setPrijmeni(u8("Novák"));
+        p.setDic("CZ7001011234");
+        p.setC_ufo(451);
+        ASSERT_TRUE(m_model->setPriznani(p));
+        m_model->addKontaktSAdresou(Kontakt(-1, u8("Beta s.r.o."), "", "27082440", "CZ27082440", "", true, -1),
+                                    Adresa(-1, "", "", "", "", ""));
+        dphDoklad(*m_model, DruhDokladu::FAKTURA_VYDANA, "2024-03-10", "2024-03-10", "R1,2", {{21, 1210}});
+        dphDoklad(*m_model, DruhDokladu::ZAVAZEK, "2024-03-12", "2024-03-12", "R40,41-K", {{21, 605}});
+        m_prompts.clear();
+    }
+    // Pages 1 and 2 with March 2024 typed as free dates and the coefficient of row 52.
+    void obdobiBrezen(Dphdp3Wizard& w, const char* koeficient) {
+        w.ShowPage(w.firstPage());
+        w.Show();
+        next(w);
+        ASSERT_EQ(w.GetCurrentPage(), w.page2());
+        select(w.page2(), "volbaObdobi");
+        typeDate(w.page2(), "od", "1.3.2024");
+        typeDate(w.page2(), "do", "31. 3. 2024");
+        typeDate(w.page2(), "datumVyhotoveni", "20.4.2024");
+        typeText(w.page2(), "koefNov", u8(koeficient));
+        next(w);
+    }
+};
+
+TEST_F(Dphdp3WizardTest, PagesComputeExportAndSave) {
+    Dphdp3Wizard w(m_frame, m_model.get());
+    obdobiBrezen(w, "60,5x");
+    EXPECT_EQ(w.GetCurrentPage(), w.page2());  // refused, stays
+    EXPECT_THAT(m_prompts.transcript().utf8_string(), HasSubstr("ř.52 - Koeficient (%)"));
+    typeText(w.page2(), "koefNov", u8("120"));
+    m_prompts.clear();
+    next(w);
+    EXPECT_EQ(m_prompts.transcript(), u8("ř.52 - Koeficient (%): koeficient musí být od 0 do 100 %\n"));
+    typeText(w.page2(), "koefNov", u8("60,5"));
+    next(w);
+    ASSERT_EQ(w.GetCurrentPage(), w.page3());
+
+    m_prompts.clear();
+    select(w.page3(), "formaD");
+    next(w);  // no saved return to supplement
+    EXPECT_EQ(w.GetCurrentPage(), w.page3());
+    EXPECT_THAT(m_prompts.transcript().utf8_string(), HasSubstr("Vyberte přiznání"));
+    select(w.page3(), "formaB");
+    next(w);
+    ASSERT_EQ(w.GetCurrentPage(), w.page4());
+    const Dphdp3& p = w.dphdp3();
+    EXPECT_EQ(p.atributValue("Veta1", "obrat23"), "1000");
+    EXPECT_EQ(p.atributValue("Veta4", "odp_tuz23"), "105");
+    EXPECT_EQ(p.atributValue("Veta5", "koef_p20_nov"), "60.5");
+    EXPECT_EQ(p.atributValue("Veta5", "odp_uprav_kf"), "64");  // 105 × 0.605 = 63.525
+    EXPECT_EQ(p.atributValue("VetaD", "zdobd_do"), "31.03.2024");
+
+    const wxString path = m_home + "/priznani";
+    m_prompts.answerPath(path);
+    press(w.page4(), "export");
+    std::string xml;
+    {
+        wxFFile file(path + ".xml", "rb");
+        ASSERT_TRUE(file.IsOpened());
+        xml.resize(static_cast<size_t>(file.Length()));
+        file.Read(xml.data(), xml.size());
+    }
+    EXPECT_EQ(xml, p.createXml());
+    EXPECT_EQ(lxutils::validateXml(xml, lxutils::xsdDir() + "/dphdp3_epo2.xsd"), "");
+
+    m_prompts.answerQuestion(true);
+    w.OnFinished();
+    ASSERT_EQ(m_model->getUlozeneCount(), 1);
+    EXPECT_EQ(m_model->ulozene()[0]->popis(), u8("Řádné přiznání 1.3.2024 - 31.3.2024"));
+    screenshot(w, "dphdp3wizard-page4");
+}
+
+TEST_F(Dphdp3WizardTest, SupplementaryReturnOnTheSavedOneAndInvalidExportWritesNothing) {
+    {
+        Dphdp3Wizard w(m_frame, m_model.get());
+        obdobiBrezen(w, "");
+        next(w);
+        m_prompts.answerQuestion(true);
+        w.OnFinished();
+    }
+    dphDoklad(*m_model, DruhDokladu::FAKTURA_VYDANA, "2024-03-20", "2024-03-20", "R1,2", {{21, 363}});
+    Dphdp3Wizard w(m_frame, m_model.get());
+    obdobiBrezen(w, "");
+    ASSERT_EQ(w.GetCurrentPage(), w.page3());
+    select(w.page3(), "formaD");
+    auto* k = field<wxChoice>(w.page3(), "dodatecneK");
+    ASSERT_EQ(k->GetCount(), 1u);
+    EXPECT_EQ(k->GetString(0), u8("Řádné přiznání 1.3.2024 - 31.3.2024"));
+    typeDate(w.page3(), "datumZjisteni", "2.5.2024");
+    typeText(w.page3(), "duvod", u8("Opomenutá faktura"));
+    next(w);
+    ASSERT_EQ(w.GetCurrentPage(), w.page4());
+    EXPECT_EQ(w.dphdp3().atributValue("Veta1", "obrat23"), "300");
+    EXPECT_EQ(w.dphdp3().atributValue("Veta6", "dano"), "63");
+    EXPECT_EQ(w.dphdp3().atributValue("VetaR", "t_prilohy"), u8("Opomenutá faktura"));
+    screenshot(w, "dphdp3wizard-page3");
+
+    // A taxpayer without a tax office: the schema refuses it, nothing is asked or written.
+    Priznani p = m_model->priznani();
+    p.setC_ufo(0);
+    ASSERT_TRUE(m_model->setPriznani(p));
+    ASSERT_TRUE(w.fillData());
+    m_prompts.clear();
+    EXPECT_FALSE(w.page4()->exportovat());
+    ASSERT_EQ(m_prompts.shown().size(), 1u);
+    EXPECT_EQ(m_prompts.shown()[0].kind, "error");
+    EXPECT_THAT(m_prompts.shown()[0].text.utf8_string(), HasSubstr("Věta VetaP, údaj c_ufo: chybí povinný údaj"));
+}
