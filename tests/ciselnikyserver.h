@@ -37,7 +37,9 @@ server.serve_forever()
 // The requests the server received, one a line.
 inline wxArrayString ciselnikyRequests(const wxString& directory) {
     wxString text;
-    wxFFile log(wxFileName(directory, "requests.log").GetFullPath(), "r");
+    const wxString path = wxFileName(directory, "requests.log").GetFullPath();
+    if (!wxFileName::FileExists(path)) return wxArrayString();
+    wxFFile log(path, "r");
     if (log.IsOpened()) log.ReadAll(&text);
     return wxStringTokenize(text, "\n", wxTOKEN_STRTOK);
 }
