@@ -18,6 +18,7 @@
 #include "FirmaWizard.h"
 #include "KontaktyDialog.h"
 #include "PreferencesDialog.h"
+#include "UlozeneDialog.h"
 #include "ZalohaDialog.h"
 #include "book/lxbook.h"
 #include "clock.h"
@@ -298,20 +299,12 @@ void evidaFrame::onAdresar(wxCommandEvent&) {
 }
 
 void evidaFrame::onUlozenaPriznani(wxCommandEvent&) {
-    const lxUlozeneArray ulozene = m_model->ulozene();
-    if (ulozene.empty()) {
+    if (!m_model || m_model->getUlozeneCount() == 0) {
         prompts().info(u8("Žádná uložená přiznání"), u8(INFORMACE), this);
         return;
     }
-    // The filings themselves (preview, export, deletion) come with the tax part of the
-    // program; until then the command lists what is saved.
-    static const char* const druhy[] = {"Přiznání k DPH", "Souhrnné hlášení DPH", "Kontrolní hlášení DPH"};
-    wxArrayString list;
-    for (const auto& u : ulozene) {
-        const wxString druh = u->typ() >= 0 && u->typ() <= 2 ? u8(druhy[u->typ()]) : wxString();
-        list.Add(druh + " – " + u->popis());
-    }
-    prompts().singleChoice(u8("Uložená přiznání:"), u8("Uložená přiznání"), list, 0, this);
+    UlozeneDialog dialog(this);
+    dialog.ShowModal();
 }
 
 void evidaFrame::onQuit(wxCommandEvent&) { Close(); }

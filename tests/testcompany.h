@@ -12,8 +12,12 @@
 
 #include "dbmodel.h"
 
-// Czech text in the tests is UTF-8, whatever the process locale.
+// Czech text in the tests is UTF-8, whatever the process locale. Shared with the other test
+// headers, which a test may include together.
+#ifndef EVIDA_TEST_U8
+#define EVIDA_TEST_U8
 inline wxString u8(const char* text) { return wxString::FromUTF8(text); }
+#endif
 
 // A day written "2024-03-31"; invalid for a text that is not one.
 wxDateTime isoDatum(const char* text);
