@@ -13,7 +13,7 @@
 #include "dbmodel.h"
 #include "lxsettings.h"
 #include "podanipages.h"
-#include "prints/dphdp3print.h"
+#include "dphdp3print.h"
 #include "prompts.h"
 
 namespace {
@@ -257,7 +257,10 @@ Dphdp3Wizard::Dphdp3Wizard(wxWindow* parent, DbModel* model)
     texty.soubor = "dphdp3.xml";
     m_page4 = new PodaniKonecPage(
         this, texty, [this]() -> const Podani& { return m_dp3; },
-        [this](const Podani&) { tiskDphdp3(this, m_model, m_dp3); });
+        [this](const Podani&) {
+            Dphdp3Print print(this, m_dp3);
+            print.Preview();
+        });
     wxWizardPageSimple::Chain(m_page1, m_page2);
     wxWizardPageSimple::Chain(m_page2, m_page3);
     wxWizardPageSimple::Chain(m_page3, m_page4);
