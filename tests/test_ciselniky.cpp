@@ -9,10 +9,10 @@
 
 #include <string>
 
-#include "dph/ciselniky.h"
 #include "ciselnikyserver.h"
 #include "clock.h"
 #include "collation.h"
+#include "dph/ciselniky.h"
 #include "lxutils.h"
 #include "testcompany.h"
 
@@ -90,7 +90,7 @@ TEST_F(CodeLists, AnOlderDayGivesTheOfficesOfThatTimeWithTheirOddAttributes) {
 
     const auto ufo2010 = lxutils::readUfo(isoDatum("2010-06-01"), sample("ufo_epo_ciselnik.xml"));
     const auto c2010 = codes(ufo2010, &lxutils::Ufo::c_ufo);
-    EXPECT_THAT(c2010, ::testing::Contains(551));      // the row with k_ufo_vema="\ "
+    EXPECT_THAT(c2010, ::testing::Contains(551));                  // the row with k_ufo_vema="\ "
     EXPECT_THAT(c2010, ::testing::Not(::testing::Contains(451)));  // began in 2013
     EXPECT_THAT(c2010, ::testing::Not(::testing::Contains(0)));    // began in 2011
 }
@@ -118,8 +118,9 @@ TEST_P(OkecOnDay, RepeatedCodesGiveTheRowOfTheirValidInterval) {
 
 INSTANTIATE_TEST_SUITE_P(
     Okec, OkecOnDay,
-    ::testing::Values(OkecCase{"last_day_of_the_old_list", "2025-12-31", {14900, 620100, 51010}, {14800, 629000, 22000}},
-                      OkecCase{"first_day_of_the_new_list", "2026-01-01", {14800, 629000, 22000}, {14900, 620100, 51010}}),
+    ::testing::Values(
+        OkecCase{"last_day_of_the_old_list", "2025-12-31", {14900, 620100, 51010}, {14800, 629000, 22000}},
+        OkecCase{"first_day_of_the_new_list", "2026-01-01", {14800, 629000, 22000}, {14900, 620100, 51010}}),
     [](const auto& i) { return std::string(i.param.name); });
 
 TEST_F(CodeLists, CountriesGiveTheirEuCodeOncePerCode) {
@@ -180,15 +181,15 @@ std::string sampleBytes(const char* name, size_t length = std::string::npos) {
 
 INSTANTIATE_TEST_SUITE_P(
     CodeLists, DamagedList,
-    ::testing::Values(
-        BadFile{"error_answer", R"(<?xml version="1.0"?><Chyby><Chyba kod="1" text="Neznámý číselník"/></Chyby>)", 0},
-        BadFile{"xml_cut_off", sampleBytes("ufo_epo_ciselnik.xml", 20000), 0},
-        BadFile{"html_page", "<html><body><h1>Interní chyba serveru</h1></body></html>", 0},
-        BadFile{"binary_garbage", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), 0},
-        BadFile{"plain_text", "Service Unavailable\n", 0}, BadFile{"empty", "", 0},
-        BadFile{"header_only", "c_nace|d_pocpl|d_ukopl|naz_nace|\n", 0},
-        BadFile{"text_cut_in_a_line", sampleBytes("okec_mepo_subset.txt", 250), 2},
-        BadFile{"text_with_a_short_line", "c_ufo|nazu_ufo|\n451|Praha|\n452|\n453|Brno|\r\n", 2}),
+    ::testing::Values(BadFile{"error_answer",
+                              R"(<?xml version="1.0"?><Chyby><Chyba kod="1" text="Neznámý číselník"/></Chyby>)", 0},
+                      BadFile{"xml_cut_off", sampleBytes("ufo_epo_ciselnik.xml", 20000), 0},
+                      BadFile{"html_page", "<html><body><h1>Interní chyba serveru</h1></body></html>", 0},
+                      BadFile{"binary_garbage", std::string("\x89PNG\r\n\x1a\n\0\0\0\rIHDR", 16), 0},
+                      BadFile{"plain_text", "Service Unavailable\n", 0}, BadFile{"empty", "", 0},
+                      BadFile{"header_only", "c_nace|d_pocpl|d_ukopl|naz_nace|\n", 0},
+                      BadFile{"text_cut_in_a_line", sampleBytes("okec_mepo_subset.txt", 250), 2},
+                      BadFile{"text_with_a_short_line", "c_ufo|nazu_ufo|\n451|Praha|\n452|\n453|Brno|\r\n", 2}),
     [](const auto& i) { return std::string(i.param.name); });
 
 TEST_F(CodeLists, MissingFilesGiveEmptyListsAndNames) {

@@ -59,23 +59,40 @@ TEST_P(PriznaniCheck, FirstFailingEntryIsReported) {
     EXPECT_EQ(chyba.pole, c.field);
 }
 
-#define WITH(base, setter, value) [] { Priznani p = base(); p.setter(value); return p; }
+#define WITH(base, setter, value) \
+    [] {                          \
+        Priznani p = base();      \
+        p.setter(value);          \
+        return p;                 \
+    }
 
 INSTANTIATE_TEST_SUITE_P(
     Taxpayer, PriznaniCheck,
     ::testing::Values(
         CheckCase{"complete", complete, "", ""},
         CheckCase{"blank_first_name", WITH(complete, setJmeno, "  "), "Jméno nemůže být prázdné", "jmeno"},
-        CheckCase{"first_name_before_street", [] { Priznani p = complete(); p.setUlice(""); p.setJmeno("");
-                                                   return p; }, "Jméno nemůže být prázdné", "jmeno"},
+        CheckCase{"first_name_before_street",
+                  [] {
+                      Priznani p = complete();
+                      p.setUlice("");
+                      p.setJmeno("");
+                      return p;
+                  },
+                  "Jméno nemůže být prázdné", "jmeno"},
         CheckCase{"surname", WITH(complete, setPrijmeni, ""), "Příjmení nemůže být prázdné", "prijmeni"},
         CheckCase{"street", WITH(complete, setUlice, ""), "Ulice nemůže být prázdná", "ulice"},
         CheckCase{"town", WITH(complete, setNaz_obce, ""), "Obec nemůže být prázdná", "naz_obce"},
         CheckCase{"activity", WITH(complete, setC_okec, 0), "Hlavní ekonomická činnost nemůže být prázdná", "c_okec"},
         CheckCase{"neither_mail_nor_box", WITH(complete, setEmail, ""),
                   "Vyplňte buď email\nnebo identifikátor datové schránky", "email"},
-        CheckCase{"data_box_instead_of_mail", [] { Priznani p = complete(); p.setEmail(""); p.setId_dats("abc123x");
-                                                   return p; }, "", ""},
+        CheckCase{"data_box_instead_of_mail",
+                  [] {
+                      Priznani p = complete();
+                      p.setEmail("");
+                      p.setId_dats("abc123x");
+                      return p;
+                  },
+                  "", ""},
         CheckCase{"person_complete", fyzicka, "", ""},
         CheckCase{"person_first_name", WITH(fyzicka, setZast_jmeno, ""), "Jméno podepisující osoby nemůže být prázdné",
                   "zast_jmeno"},
@@ -92,8 +109,13 @@ INSTANTIATE_TEST_SUITE_P(
                   "Příjmení oprávněné osoby nemůže být prázdné", "opr_prijmeni"},
         CheckCase{"authorised_relation", WITH(pravnicka, setOpr_postaveni, ""),
                   "Vztah oprávněné osoby k právnické osobě nemůže být prázdný", "opr_postaveni"},
-        CheckCase{"taxpayer_before_representative", [] { Priznani p = pravnicka(); p.setZast_nazev("");
-                                                         p.setEmail(""); return p; },
+        CheckCase{"taxpayer_before_representative",
+                  [] {
+                      Priznani p = pravnicka();
+                      p.setZast_nazev("");
+                      p.setEmail("");
+                      return p;
+                  },
                   "Vyplňte buď email\nnebo identifikátor datové schránky", "email"}),
     [](const auto& i) { return std::string(i.param.name); });
 

@@ -23,9 +23,8 @@ namespace {
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
 // The representative fields whose use depends on the representative's kind.
-const char* const POLE_ZASTUPCE[] = {"zast_kod",      "zast_jmeno", "zast_prijmeni", "zast_dat_nar",
-                                     "zast_ev_cislo", "zast_nazev", "zast_ic",       "opr_jmeno",
-                                     "opr_prijmeni",  "opr_postaveni"};
+const char* const POLE_ZASTUPCE[] = {"zast_kod",   "zast_jmeno", "zast_prijmeni", "zast_dat_nar", "zast_ev_cislo",
+                                     "zast_nazev", "zast_ic",    "opr_jmeno",     "opr_prijmeni", "opr_postaveni"};
 
 // The text fields of the form and the record's field each of them edits.
 struct TextField {
@@ -99,7 +98,8 @@ PriznaniDialog::PriznaniDialog(wxWindow* parent, DbModel* model)
     auto* obecButton = new wxButton(sb, wxID_ANY, "...", wxDefaultPosition, wxSize(30, -1), wxBU_EXACTFIT,
                                     wxDefaultValidator, "vybratObec");
     obecButton->SetToolTip(u8("Vybrat obec z číselníku obcí"));
-    auto* obec = new wxTextCtrl(sb, wxID_ANY, "", wxDefaultPosition, wxSize(220, -1), 0, wxDefaultValidator, "naz_obce");
+    auto* obec =
+        new wxTextCtrl(sb, wxID_ANY, "", wxDefaultPosition, wxSize(220, -1), 0, wxDefaultValidator, "naz_obce");
     m_controls["naz_obce"] = obec;
     addRow(sb, g1, "Obec", obec, obecButton);
     addText(sb, g1, "DIČ", "dic", 120, "Kmenová část daňového identifikačního čísla");
@@ -107,8 +107,8 @@ PriznaniDialog::PriznaniDialog(wxWindow* parent, DbModel* model)
     addText(sb, g1, "Identifikátor datové\nschránky", "id_dats", 100);
     addText(sb, g1, "Telefon", "c_telef", 140);
 
-    m_ufoChoice = new wxChoice(sb, wxID_ANY, wxDefaultPosition, wxSize(300, -1), wxArrayString(), 0,
-                               wxDefaultValidator, "c_ufo");
+    m_ufoChoice =
+        new wxChoice(sb, wxID_ANY, wxDefaultPosition, wxSize(300, -1), wxArrayString(), 0, wxDefaultValidator, "c_ufo");
     for (const lxutils::Ufo& ufo : m_ufo) m_ufoChoice->Append(ufo.nazu_ufo);
     m_controls["c_ufo"] = m_ufoChoice;
     addRow(sb, g1, "Finančním úřad", m_ufoChoice);
@@ -333,8 +333,8 @@ void PriznaniDialog::chooseObec() {
 
 void PriznaniDialog::chooseOkec() {
     if (m_okec.empty()) {
-        prompts().info(u8("Číselník ekonomických činností není stažený, kód činnosti (NACE) napište."),
-                       u8("Informace"), this);
+        prompts().info(u8("Číselník ekonomických činností není stažený, kód činnosti (NACE) napište."), u8("Informace"),
+                       this);
         control("c_okec")->SetFocus();
         return;
     }

@@ -35,8 +35,7 @@ class PriznaniDialog : public wxDialog {
  private:
     wxTextCtrl* addText(wxWindow* box, wxFlexGridSizer* grid, const char* label, const char* column, int width,
                         const char* tooltip = nullptr);
-    void addRow(wxWindow* box, wxFlexGridSizer* grid, const char* label, wxWindow* control,
-                wxWindow* button = nullptr);
+    void addRow(wxWindow* box, wxFlexGridSizer* grid, const char* label, wxWindow* control, wxWindow* button = nullptr);
     void fillForm(const Priznani& p);
     void fillPracufo(int c_pracufo);
     void showOkecName();

@@ -10,8 +10,9 @@
 
 bool ensureCiselniky(wxWindow* parent, bool priznani) {
     if (lxutils::haveCiselniky()) return true;
-    const wxString otazka = wxString::FromUTF8(priznani ? "Je třeba stáhnout číselníky potřebné pro přiznání.\nStáhnout teď?"
-                                                        : "Je třeba stáhnout číselníky potřebné pro hlášení.\nStáhnout teď?");
+    const wxString otazka =
+        wxString::FromUTF8(priznani ? "Je třeba stáhnout číselníky potřebné pro přiznání.\nStáhnout teď?"
+                                    : "Je třeba stáhnout číselníky potřebné pro hlášení.\nStáhnout teď?");
     if (!prompts().question(otazka, wxString::FromUTF8("Dotaz"), parent)) return false;
 
     const wxString title = wxString::FromUTF8("Stahování číselníků");

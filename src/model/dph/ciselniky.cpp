@@ -8,6 +8,7 @@
 #include <wx/strconv.h>
 
 #include <algorithm>
+#include <cctype>
 #include <climits>
 #include <memory>
 
