@@ -1,5 +1,6 @@
 #include "dp3radky.h"
 
+#include "ciselniky.h"
 #include "dphobdobi.h"
 #include "lxformat.h"
 
@@ -183,8 +184,15 @@ wxString obdobiText(const Dphdp3& p) {
 
 wxString uradText(const Dphdp3& p) {
     const wxString ufo = platce(p, "c_ufo"), pracoviste = platce(p, "c_pracufo");
-    return spojit({ufo.empty() ? wxString() : u8("Finanční úřad ") + ufo,
-                   pracoviste.empty() ? wxString() : u8("územní pracoviště ") + pracoviste},
+    // Named from the downloaded code lists; without them (or for an unknown code) by the code.
+    const wxString nazevUfo = ufo.empty() ? wxString() : lxutils::nazevUfo(p.atributValueInt("VetaP", "c_ufo"));
+    const wxString nazevPrac =
+        pracoviste.empty() ? wxString() : lxutils::nazevPracufo(p.atributValueInt("VetaP", "c_pracufo"));
+    return spojit({ufo.empty() ? wxString()
+                               : (nazevUfo.empty() ? u8("Finanční úřad ") + ufo : nazevUfo + " (" + ufo + ")"),
+                   pracoviste.empty() ? wxString()
+                                      : (nazevPrac.empty() ? u8("územní pracoviště ") + pracoviste
+                                                           : nazevPrac + " (" + pracoviste + ")")},
                   ", ");
 }
 

@@ -41,7 +41,8 @@ wxString formHodnota(const Dphdp3& p, const wxString& atribut);
 wxString formaNazev(const wxString& forma);
 // The period of the return: "Březen 2024", "1. čtvrtletí 2024" or "01.01.2024 – 15.03.2024".
 wxString obdobiText(const Dphdp3& p);
-// The taxpayer's office by its codes: "Finanční úřad: 451, územní pracoviště: 2001"; the parts
+// The taxpayer's office and workplace by their names in the code lists and their codes, or by
+// the codes alone when the lists are not downloaded ("Finanční úřad 451"); the parts
 // whose code is missing are left out.
 wxString uradText(const Dphdp3& p);
 
