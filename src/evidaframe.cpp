@@ -303,8 +303,7 @@ void evidaFrame::onUlozenaPriznani(wxCommandEvent&) {
         prompts().info(u8("Žádná uložená přiznání"), u8(INFORMACE), this);
         return;
     }
-    UlozeneDialog dialog(this);
-    dialog.ShowModal();
+    (new UlozeneDialog(this))->ukazat();
 }
 
 void evidaFrame::onQuit(wxCommandEvent&) { Close(); }

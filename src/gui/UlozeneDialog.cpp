@@ -4,6 +4,7 @@
 #include <wx/filename.h>
 #include <wx/listctrl.h>
 #include <wx/utils.h>
+#include <wx/window.h>
 
 #include "dbmodel.h"
 #include "dph/dphdp3.h"
@@ -50,6 +51,18 @@ UlozeneDialog::UlozeneDialog(wxWindow* parent)
 SeznamDialog::Command UlozeneDialog::prikaz(const char* nazev, std::function<void(int)> run, bool dvojklik) {
     const wxString text = u8(nazev);
     return {text, [text](int) { return text; }, true, std::move(run), dvojklik};
+}
+
+UlozeneDialog::~UlozeneDialog() = default;
+
+void UlozeneDialog::ukazat() {
+    m_disabler = std::make_unique<wxWindowDisabler>(this);
+    Bind(wxEVT_BUTTON, [this](wxCommandEvent&) { Close(); }, wxID_CANCEL);
+    Bind(wxEVT_CLOSE_WINDOW, [this](wxCloseEvent&) {
+        m_disabler.reset();
+        Destroy();
+    });
+    Show();
 }
 
 wxString UlozeneDialog::druhNazev(int typ) {

@@ -3,11 +3,22 @@
 // again as the XML file the tax administration takes, or deleted after a question.
 #pragma once
 
+#include <memory>
+
 #include "SeznamDialog.h"
+
+class wxWindowDisabler;
 
 class UlozeneDialog : public SeznamDialog {
  public:
     explicit UlozeneDialog(wxWindow* parent);
+    ~UlozeneDialog() override;
+
+    // Shows the list without a modal loop of its own: the other windows of the program are
+    // disabled as under a modal dialog, but the print previews opened from the list take
+    // the mouse and keyboard (a modal dialog would keep them to itself). Closing the list
+    // enables the windows again and deletes it.
+    void ukazat();
 
     // The commands of the buttons and of the context menu, on a saved filing's id.
     void nahled(int id);
@@ -22,6 +33,7 @@ class UlozeneDialog : public SeznamDialog {
     std::vector<Row> rows() override;
 
  private:
+    std::unique_ptr<wxWindowDisabler> m_disabler;
     // A command on the selected row, as a button and as the same context-menu item.
     static Command prikaz(const char* nazev, std::function<void(int)> run, bool dvojklik = false);
 };

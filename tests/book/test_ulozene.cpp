@@ -10,6 +10,9 @@
 #include <wx/uiaction.h>
 #include <wx/utils.h>
 
+#include <functional>
+#include <vector>
+
 #include "UlozeneDialog.h"
 #include "booktest.h"
 #include "dph/dphdp3fill.h"
@@ -67,8 +70,11 @@ class UlozeneList : public BookTest {
         return nullptr;
     }
     static void closePreviews() {
-        while (wxPreviewFrame* f = previewFrame()) f->Destroy();
-        wxTheApp->ProcessIdle();
+        std::vector<wxWindow*> frames;
+        for (wxWindow* w : wxTopLevelWindows)
+            if (dynamic_cast<wxPreviewFrame*>(w)) frames.push_back(w);
+        for (wxWindow* f : frames) f->Destroy();
+        wxTheApp->ProcessIdle();  // deletes them
     }
 };
 
@@ -106,7 +112,8 @@ TEST_F(UlozeneList, SaveAsWritesTheStoredXmlByteForByte) {
     ASSERT_TRUE(file.IsOpened());
     std::string read(static_cast<size_t>(file.Length()), '\0');
     ASSERT_EQ(file.Read(read.data(), read.size()), read.size());
-    const wxScopedCharBuffer stored = m_model->ulozeneXml(id).utf8_str();
+    const wxString xml = m_model->ulozeneXml(id);
+    const wxScopedCharBuffer stored = xml.utf8_str();
     EXPECT_EQ(read, std::string(stored.data(), stored.length()));
     EXPECT_NE(read.find("Čermák"), std::string::npos);
 
@@ -183,48 +190,47 @@ TEST_F(UlozeneList, PreviewOpensTheReturnsPrintAndTellsWhatItCannotShow) {
     EXPECT_FALSE(m_prompts.shown()[0].text.empty());
 }
 
-// Real clicks: the preview opened from the modal list must take the mouse, so a person can
-// page through it and close it while the list stays open.
+// Real clicks: the preview opened from the list must take the mouse, so a person can page
+// through it and close it while the list stays open.
 class UlozeneListRealInput : public UlozeneList {};
 
-TEST_F(UlozeneListRealInput, PreviewOpenedFromTheModalListTakesClicks) {
+TEST_F(UlozeneListRealInput, PreviewOpenedFromTheListTakesClicks) {
     const int id = ulozitPriznani(3, "B");
-    UlozeneDialog dialog(m_frame);
-    dialog.selectId(id);
-    bool opened = false, closed = false;
-    wxTheApp->CallAfter([&] {
-        wxUIActionSimulator sim;
-        wxButton* nahled = button(&dialog, "Náhled přiznání");
-        sim.MouseMove(nahled->GetScreenRect().GetPosition() + wxPoint(10, 8));
-        sim.MouseClick();
-        for (int i = 0; i < 100 && !previewFrame(); ++i) {
+    m_frame->Show();
+    auto* dialog = new UlozeneDialog(m_frame);
+    dialog->ukazat();
+    EXPECT_FALSE(m_frame->IsEnabled());  // the list stands in front as a modal one would
+    dialog->selectId(id);
+    const auto wait = [](const std::function<bool()>& done) {
+        for (int i = 0; i < 100 && !done(); ++i) {
             wxYield();
             wxMilliSleep(20);
         }
-        wxPreviewFrame* frame = previewFrame();
-        opened = frame != nullptr;
-        if (frame) {
-            for (int i = 0; i < 25; ++i) {
-                wxYield();
-                wxMilliSleep(20);
-            }
-            wxWindow* zavrit = frame->FindWindow(wxID_PREVIEW_CLOSE);
-            if (zavrit) {
-                sim.MouseMove(zavrit->GetScreenRect().GetPosition() + wxPoint(8, 8));
-                sim.MouseClick();
-            }
-            for (int i = 0; i < 100 && previewFrame(); ++i) {
-                wxYield();
-                wxMilliSleep(20);
-            }
-            closed = !previewFrame();
-        }
-        closePreviews();
-        dialog.EndModal(wxID_CANCEL);
+    };
+    wait([] { return false; });
+    wxUIActionSimulator sim;
+    wxButton* nahled = button(dialog, "Náhled přiznání");
+    sim.MouseMove(nahled->GetScreenRect().GetPosition() + wxPoint(10, 8));
+    sim.MouseClick();
+    wait([] { return previewFrame() != nullptr; });
+    wxPreviewFrame* frame = previewFrame();
+    ASSERT_NE(frame, nullptr);
+    bool closed = false;
+    frame->Bind(wxEVT_CLOSE_WINDOW, [&closed](wxCloseEvent& event) {
+        closed = true;
+        event.Skip();
     });
-    dialog.ShowModal();
-    EXPECT_TRUE(opened);
+    wait([] { return false; });
+    wxWindow* zavrit = frame->FindWindow(wxID_PREVIEW_CLOSE);
+    ASSERT_NE(zavrit, nullptr);
+    sim.MouseMove(zavrit->GetScreenRect().GetPosition() + wxPoint(8, 8));
+    sim.MouseClick();
+    wait([&closed] { return closed; });
     EXPECT_TRUE(closed);
+    closePreviews();
+    dialog->Close();
+    wxTheApp->ProcessIdle();
+    EXPECT_TRUE(m_frame->IsEnabled());
 }
 
 }  // namespace

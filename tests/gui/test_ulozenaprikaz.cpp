@@ -1,5 +1,6 @@
 // The "Uložená přiznání" command of the main window opens the list of saved filings once
 // there is one (with none it only says so, see test_companies.cpp).
+#include <wx/app.h>
 #include <wx/listctrl.h>
 
 #include "UlozeneDialog.h"
@@ -20,14 +21,16 @@ TEST_F(ShellUlozene, CommandOpensTheListOfSavedFilings) {
     u.setXml("<Pisemnost/>");
     ASSERT_TRUE(DbModel::instance()->addUlozene(u));
 
-    int rows = -1;
-    m_dialogs.then([&rows](wxDialog* dialog) {
-        if (auto* list = dynamic_cast<UlozeneDialog*>(dialog)) rows = list->list()->GetItemCount();
-        dialog->EndModal(wxID_CANCEL);
-    });
     command(evidaFrame::ID_ULOZENA_PRIZNANI);
-    ASSERT_FALSE(m_dialogs.titles.empty());
-    EXPECT_EQ(m_dialogs.titles.back(), u8("Uložená přiznání"));
-    EXPECT_EQ(rows, 1);
+    UlozeneDialog* dialog = nullptr;
+    for (wxWindow* w : wxTopLevelWindows)
+        if (auto* d = dynamic_cast<UlozeneDialog*>(w)) dialog = d;
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->GetTitle(), u8("Uložená přiznání"));
+    EXPECT_EQ(dialog->list()->GetItemCount(), 1);
     EXPECT_TRUE(m_prompts.shown().empty());
+    EXPECT_FALSE(m_frame->IsEnabled());
+    dialog->Close();
+    wxTheApp->ProcessIdle();
+    EXPECT_TRUE(m_frame->IsEnabled());
 }
