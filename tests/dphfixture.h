@@ -2,8 +2,7 @@
 // saves a document of a VAT classification with its items, as the document dialog does.
 #pragma once
 
-#include "fakturace/castky.h"
-#include "fakturace/dokladform.h"
+#include "dphdoklady.h"
 #include "testcompany.h"
 
 class DphFixture : public TestCompany {
@@ -18,22 +17,10 @@ class DphFixture : public TestCompany {
     DokladForm doklad(DruhDokladu druh, const char* duzp, const char* dppd, const char* dphdruh,
                       std::vector<std::pair<int, double>> polozky, int rok = 2024, int menaid = 1, double kurz = 1,
                       bool sDic = true) {
-        DokladForm form = novyDoklad(*m_model, druh);
-        form.duzp = isoDatum(duzp);
-        form.dppd = isoDatum(dppd);
-        form.dphdruh = dphdruh;
-        form.menaid = menaid;
-        form.kurz = kurz;
-        form.protistrana = sDic ? u8("Beta s.r.o.") : u8("Bez DIČ");
-        for (const auto& [sazba, cena] : polozky) {
-            const castky::Polozka c = castky::polozka(true, false, 1, cena, sazba, form.duzp);
-            EXPECT_TRUE(m_model->addFaPolozka(FaPolozka(m_model->getLastId("fapolozka"), "", "", 1, cena,
-                                                        m_model->getDphSazbaId(sazba, rok), c.dph, c.celkem, false,
-                                                        form.faktura() ? form.id : -1, form.faktura() ? -1 : form.id,
-                                                        -1, false)));
-        }
-        EXPECT_EQ(ulozitDoklad(*m_model, form), wxString()) << dphdruh;
-        return form;
+        std::vector<DphPolozka> p;
+        for (const auto& [sazba, cena] : polozky) p.push_back({sazba, cena});
+        return dphDoklad(*m_model, druh, duzp, dppd, dphdruh, p, wxString(),
+                         sDic ? u8("Beta s.r.o.") : u8("Bez DIČ"), menaid, kurz, rok);
     }
     int druh(const char* zkratka) { return m_model->getDphDruhIdByZkratka(zkratka); }
     int m_dic = -1;

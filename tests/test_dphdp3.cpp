@@ -278,15 +278,16 @@ TEST_F(Dp3, GoldenReturnsOfSmallCompanies) {
     doklad(DruhDokladu::POHLEDAVKA, "2024-03-31", "2024-03-31", "R50", {{0, 9000}});
     porovnejSeVzorem(vypocet(3, "B", 85), "brezen2024.xml");
 
-    // The second quarter with nothing but a purchase: an excess deduction.
-    doklad(DruhDokladu::FAKTURA_PRIJATA, "2024-05-02", "2024-05-06", "R40,41", {{12, 1120}});
+    // The last quarter with nothing but a purchase: an excess deduction, and the payer goes
+    // monthly next year.
+    doklad(DruhDokladu::FAKTURA_PRIJATA, "2024-11-02", "2024-11-06", "R40,41", {{12, 1120}});
     Dp3Zadani z;
-    z.obdobi = DphObdobi::zCtvrtleti(2024, 2);
-    z.datumPodani = isoDatum("2024-07-20");
+    z.obdobi = DphObdobi::zCtvrtleti(2024, 4);
+    z.datumPodani = isoDatum("2025-01-20");
     z.kodZo = "M";
     Dphdp3 q;
     ASSERT_TRUE(dp3::fillData(*m_model, q, z));
-    porovnejSeVzorem(q, "ctvrtleti2-2024.xml");
+    porovnejSeVzorem(q, "ctvrtleti4-2024.xml");
 }
 
 }  // namespace

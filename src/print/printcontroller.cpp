@@ -1,5 +1,6 @@
 #include "printcontroller.h"
 
+#include <wx/dialog.h>
 #include <wx/msgdlg.h>
 #include <wx/printdlg.h>
 
@@ -40,13 +41,18 @@ wxPrintPreview* lxPrintController::createPreview() {
 wxPreviewFrame* lxPrintController::showPreview(bool modal) {
     wxPrintPreview* preview = createPreview();
     if (!preview) {
-        wxMessageBox("There was a problem with previewing.\nPerhaps your current printer is not set correctly?",
-                     "Previewing", wxOK);
+        wxMessageBox(wxString::FromUTF8("Náhled tisku se nepodařilo připravit.\nZkontrolujte nastavení tiskárny."),
+                     wxString::FromUTF8("Náhled"), wxOK | wxICON_ERROR);
         return nullptr;
     }
     preview->SetZoom(100);
     auto* frame = new wxPreviewFrame(preview, m_parent, m_title, wxDefaultPosition, wxSize(880, 650));
-    frame->InitializeWithModality(modal ? wxPreviewFrame_AppModal : wxPreviewFrame_NonModal);
+    // Over a modal dialog (a wizard, a dialog's print button) the preview is application-modal
+    // itself: a plain frame opened there gets no mouse or keyboard while the dialog's modal
+    // loop runs.
+    wxWindow* top = m_parent ? wxGetTopLevelParent(m_parent) : nullptr;
+    const bool overModal = top && top->IsKindOf(wxCLASSINFO(wxDialog)) && static_cast<wxDialog*>(top)->IsModal();
+    frame->InitializeWithModality(modal || overModal ? wxPreviewFrame_AppModal : wxPreviewFrame_NonModal);
     frame->Centre(wxBOTH);
     frame->Show();
     return frame;

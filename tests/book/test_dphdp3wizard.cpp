@@ -2,8 +2,14 @@
 // refused and corrected, the kind chosen, the export to a file checked by the official
 // schema, saving on finishing, and a supplementary return built on the saved one.
 #include <gmock/gmock.h>
+#include <wx/app.h>
 #include <wx/button.h>
 #include <wx/choice.h>
+#include <wx/ffile.h>
+#include <wx/prntbase.h>
+#include <wx/uiaction.h>
+
+#include <functional>
 #include <wx/radiobut.h>
 #include <wx/textctrl.h>
 
@@ -128,7 +134,7 @@ TEST_F(Dphdp3WizardTest, PagesComputeExportAndSave) {
     m_prompts.answerQuestion(true);
     w.OnFinished();
     ASSERT_EQ(m_model->getUlozeneCount(), 1);
-    EXPECT_EQ(m_model->ulozene()[0]->popis(), u8("Řádné přiznání 1.3.2024 - 31.3.2024"));
+    EXPECT_EQ(m_model->ulozene()[0]->popis(), u8("Řádné přiznání 01.03.2024 - 31.03.2024"));
     screenshot(w, "dphdp3wizard-page4");
 }
 
@@ -147,7 +153,7 @@ TEST_F(Dphdp3WizardTest, SupplementaryReturnOnTheSavedOneAndInvalidExportWritesN
     select(w.page3(), "formaD");
     auto* k = field<wxChoice>(w.page3(), "dodatecneK");
     ASSERT_EQ(k->GetCount(), 1u);
-    EXPECT_EQ(k->GetString(0), u8("Řádné přiznání 1.3.2024 - 31.3.2024"));
+    EXPECT_EQ(k->GetString(0), u8("Řádné přiznání 01.03.2024 - 31.03.2024"));
     typeDate(w.page3(), "datumZjisteni", "2.5.2024");
     typeText(w.page3(), "duvod", u8("Opomenutá faktura"));
     next(w);
@@ -167,4 +173,53 @@ TEST_F(Dphdp3WizardTest, SupplementaryReturnOnTheSavedOneAndInvalidExportWritesN
     ASSERT_EQ(m_prompts.shown().size(), 1u);
     EXPECT_EQ(m_prompts.shown()[0].kind, "error");
     EXPECT_THAT(m_prompts.shown()[0].text.utf8_string(), HasSubstr("Věta VetaP, údaj c_ufo: chybí povinný údaj"));
+}
+
+// The wizard runs modally; the preview of "Tisk přiznání" opened from it must take the
+// mouse, so a person can page through it and close it.
+class Dphdp3WizardRealInput : public Dphdp3WizardTest {};
+
+TEST_F(Dphdp3WizardRealInput, PreviewFromTheModalWizardTakesClicks) {
+    m_frame->Show();
+    Dphdp3Wizard w(m_frame, m_model.get());
+    const auto wait = [](const std::function<bool()>& done) {
+        for (int i = 0; i < 150 && !done(); ++i) {
+            wxYield();
+            wxMilliSleep(20);
+        }
+    };
+    const auto preview = []() -> wxPreviewFrame* {
+        for (wxWindow* t : wxTopLevelWindows)
+            if (auto* f = dynamic_cast<wxPreviewFrame*>(t); f && f->IsShown() && !f->IsBeingDeleted()) return f;
+        return nullptr;
+    };
+    bool closed = false;
+    w.CallAfter([&] {
+        next(w);
+        next(w);
+        next(w);
+        ASSERT_EQ(w.GetCurrentPage(), w.page4());
+        wait([] { return false; });
+        wxUIActionSimulator sim;
+        w.page4()->tisknout();
+        wait([&] { return preview() != nullptr; });
+        wxPreviewFrame* frame = preview();
+        EXPECT_NE(frame, nullptr) << "the preview did not open";
+        if (frame) {
+            frame->Bind(wxEVT_CLOSE_WINDOW, [&closed](wxCloseEvent& e) {
+                closed = true;
+                e.Skip();
+            });
+            wait([] { return false; });
+            wxWindow* zavrit = frame->FindWindow(wxID_PREVIEW_CLOSE);
+            sim.MouseMove(zavrit->GetScreenRect().GetPosition() + wxPoint(8, 8));
+            sim.MouseClick();
+            wait([&closed] { return closed; });
+            if (!closed) frame->Destroy();
+        }
+        w.EndModal(wxID_CANCEL);
+    });
+    w.RunWizard(w.firstPage());
+    EXPECT_TRUE(closed);
+    wxTheApp->ProcessIdle();
 }
