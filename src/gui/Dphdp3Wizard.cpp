@@ -264,8 +264,9 @@ Dphdp3Wizard::Dphdp3Wizard(wxWindow* parent, DbModel* model)
     wxWizardPageSimple::Chain(m_page1, m_page2);
     wxWizardPageSimple::Chain(m_page2, m_page3);
     wxWizardPageSimple::Chain(m_page3, m_page4);
-    GetPageAreaSizer()->Add(m_page2);
-    GetPageAreaSizer()->Add(m_page3);
+    // The wizard is as large as its largest page.
+    for (wxWizardPage* page : std::initializer_list<wxWizardPage*>{m_page1, m_page2, m_page3, m_page4})
+        GetPageAreaSizer()->Add(page);
     Bind(wxEVT_WIZARD_PAGE_CHANGING, &Dphdp3Wizard::onPageChanging, this);
     Bind(wxEVT_WIZARD_FINISHED, [this](wxWizardEvent&) { OnFinished(); });
 }
