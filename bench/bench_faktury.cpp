@@ -4,6 +4,8 @@
 // open receivables each run next to the plain SQL query that returns the same rows or sums
 // (its floor); the table at the end gives the ratio operation / floor, which should stay at
 // most 1.5, and the two sizes show whether the one-year list grows with the older years.
+// The VAT return of one month (every form row from the month's documents) runs next to the one
+// query that sums the same items by rate.
 // Run with --benchmark_repetitions=5 for medians on a busy machine.
 #include <benchmark/benchmark.h>
 #include <wx/app.h>
@@ -21,6 +23,7 @@
 
 #include "companysetup.h"
 #include "dbmodel.h"
+#include "dph/dphdp3fill.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 
@@ -54,7 +57,9 @@ wxString makeCompany(int years) {
                 wxString::Format("INSERT INTO kontakt(id,nazev,public,adresaid) VALUES(%d,'Odberatel %d',1,0)", k, k));
         wxSQLite3Statement fa = db.PrepareStatement(
             "INSERT INTO faktura(id,protistranaid,popis,celkem,cislo,vs,typid,uhradaid,menaid,predkontaceid,obdobirok,"
-            "vydana,platce,vystaveni,duzp,dppd,splatnost,kurz) VALUES(?,?,'Sluzby',?,?,?,1,2,?,1,?,?,1,?,?,?,?,?)");
+            "vydana,platce,vystaveni,duzp,dppd,splatnost,kurz,dphdruhid) "
+            "VALUES(?,?,'Sluzby',?,?,?,1,2,?,1,?,?,1,?,?,?,?,?,?)");
+        const int prodej = model.getDphDruhIdByZkratka("R1,2"), nakup = model.getDphDruhIdByZkratka("R40,41");
         wxSQLite3Statement po = db.PrepareStatement(
             "INSERT INTO fapolozka(popis,mj,pocet,cenamj,sazbaid,dph,celkem,bezdph,fakturaid,zavpohid,zasobaid,"
             "zaokrouhleni) VALUES('Prace','h',2,?,1,?,?,0,?,NULL,NULL,0)");
@@ -98,6 +103,7 @@ wxString makeCompany(int years) {
                 fa.Bind(8, i % 5 != 0 ? 1 : 0);
                 for (int d = 9; d <= 12; ++d) fa.Bind(d, datum);
                 fa.Bind(13, euro ? 25.0 : 1.0);
+                fa.Bind(14, i % 5 != 0 ? prodej : nakup);
                 fa.ExecuteUpdate();
                 fa.Reset();
                 for (int p = 0; p < ITEMS_PER_INVOICE; ++p) {
@@ -185,6 +191,11 @@ const char* const POHLEDAVKY_FLOOR =
     "SELECT m.kod, z.menaid, z.celkem, (SELECT total(castka) FROM uhrada WHERE zavpohid=z.id) FROM zavpoh z "
     "LEFT JOIN mena m ON z.menaid=m.id WHERE z.obdobirok<=?1 AND IFNULL(z.zavazek,0)<>1";
 
+const char* const DPH_MESICE_FLOOR =
+    "SELECT p.sazbaid, total((p.celkem - p.dph) * f.kurz), total(p.dph * f.kurz) FROM fapolozka p "
+    "JOIN faktura f ON p.fakturaid=f.id WHERE (f.dppd BETWEEN ?1||'-03-01' AND ?1||'-03-31' AND f.vydana=0) OR "
+    "(f.duzp BETWEEN ?1||'-03-01' AND ?1||'-03-31' AND f.vydana=1) GROUP BY p.sazbaid";
+
 // Remembers the time of every benchmark and prints each operation against its floor.
 class RatioReporter : public benchmark::ConsoleReporter {
  public:
@@ -236,6 +247,15 @@ void registerAll() {
             onModel(s, years, [](DbModel& m) { benchmark::DoNotOptimize(m.getPohledavkyStav(m.currentRok())); });
         });
         add("getPohledavkyStav_floor", [years](benchmark::State& s) { onPlain(s, years, POHLEDAVKY_FLOOR); });
+        add("dphdp3Mesic", [years](benchmark::State& s) {
+            onModel(s, years, [](DbModel& m) {
+                const DphObdobi brezen = DphObdobi::zMesice(m.currentRok(), 3);
+                Dphdp3 p;
+                dp3::fillVeta1to6(m, p, brezen.od, brezen.doDne, 0);
+                benchmark::DoNotOptimize(p.castka("dan23"));
+            });
+        });
+        add("dphdp3Mesic_floor", [years](benchmark::State& s) { onPlain(s, years, DPH_MESICE_FLOOR); });
     }
 }
 
