@@ -9,6 +9,7 @@
 #include <wx/event.h>
 #include <wx/wxsqlite3.h>
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -275,6 +276,9 @@ class DbModel {
                                    bool onlyWithDic);
     // By DPPD, ascending; documents of one day keep their order.
     static void sortDphDoklad(lxDphDokladArray& doklady);
+    // Every classification with a document in the period, and whether one of its documents
+    // there is a VAT payer's: what the VAT return reads once instead of asking per row.
+    std::map<int, bool> dphDruhyForObdobi(const wxDateTime& od, const wxDateTime& doDne);
     static bool isDphSazbySameForDoklad(const lxDphForDokladArray& a, const lxDphForDokladArray& b);
     wxString kontaktDic(int id);
     bool hasKontaktDic(int id);

@@ -58,11 +58,22 @@ const std::vector<RadekDp3>& radkyDp3() {
 
 // Sums one form row over the documents of its classifications. Sums stay unrounded here;
 // Dphdp3::setCastka rounds each once when it is stored.
-void fillRadek(DbModel& model, Dphdp3& p, const RadekDp3& radek, const wxDateTime& od, const wxDateTime& doDne) {
+// `vObdobi` holds the classifications with documents in the period and whether a VAT payer's
+// document is among them: a row is left out unless one of its classifications has a payer's
+// document, and only classifications with documents are read.
+void fillRadek(DbModel& model, Dphdp3& p, const RadekDp3& radek, const wxDateTime& od, const wxDateTime& doDne,
+               const std::map<int, bool>& vObdobi) {
     wxArrayString texty;
     for (const char* r : radek.radky) texty.Add(r);
-    const std::vector<int> ids = model.getDphDruhIdByRadek(texty);
-    if (ids.empty() || !model.someDokladForDph(ids, od, doDne, false)) return;
+    std::vector<int> ids;
+    bool platce = false;
+    for (int id : model.getDphDruhIdByRadek(texty)) {
+        const auto found = vObdobi.find(id);
+        if (found == vObdobi.end()) continue;
+        ids.push_back(id);
+        platce = platce || found->second;
+    }
+    if (!platce) return;
     const auto& a = radek.atributy;
     std::map<std::string, double> sumy;
     for (int id : ids) {
@@ -180,7 +191,8 @@ void fillHlavicka(DbModel& model, Dphdp3& p, const Dp3Zadani& z) {
 }
 
 void fillVeta1to6(DbModel& model, Dphdp3& p, const wxDateTime& od, const wxDateTime& doDne, double koefP20Nov) {
-    for (const RadekDp3& radek : radkyDp3()) fillRadek(model, p, radek, od, doDne);
+    const std::map<int, bool> vObdobi = model.dphDruhyForObdobi(od, doDne);
+    for (const RadekDp3& radek : radkyDp3()) fillRadek(model, p, radek, od, doDne, vObdobi);
     if (koefP20Nov != 0) p.setAtributValue("Veta5", "koef_p20_nov", koefP20Nov);
     p.fillRadek46();
     p.fillRadek52();

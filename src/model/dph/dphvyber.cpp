@@ -92,6 +92,26 @@ bool DbModel::someDokladForDphKhA1(const wxDateTime& od, const wxDateTime& doDne
     return existuje(m_db, od, doDne, "EXISTS(SELECT 1 FROM dphdruh d WHERE d.id=f.dphdruhid AND d.kh='A1')");
 }
 
+std::map<int, bool> DbModel::dphDruhyForObdobi(const wxDateTime& od, const wxDateTime& doDne) {
+    std::map<int, bool> druhy;
+    if (isForeignStorage()) return druhy;
+    for (const Tabulka& t : TABULKY) {
+        const wxString sql = wxString::Format(
+            "SELECT f.dphdruhid, max(IFNULL(f.platce,0) = 1) FROM %s f WHERE f.dphdruhid IS NOT NULL AND %s "
+            "GROUP BY f.dphdruhid",
+            t.name, obdobi(t));
+        try {
+            wxSQLite3Statement st = m_db.PrepareStatement(sql);
+            recordio::bindValues(st, iso(od), iso(doDne));
+            wxSQLite3ResultSet rs = st.ExecuteQuery();
+            while (rs.NextRow()) druhy[rs.GetInt(0)] = druhy[rs.GetInt(0)] || rs.GetInt(1) != 0;
+        } catch (const wxSQLite3Exception& e) {
+            sqllog::error(sql, e);
+        }
+    }
+    return druhy;
+}
+
 lxDphDokladArray DbModel::dokladyForDph(int dphdruhid, const wxDateTime& od, const wxDateTime& doDne,
                                         bool onlyWithDic) {
     if (isForeignStorage()) return {};
