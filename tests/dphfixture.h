@@ -22,6 +22,22 @@ class DphFixture : public TestCompany {
         return dphDoklad(*m_model, druh, duzp, dppd, dphdruh, p, wxString(),
                          sDic ? u8("Beta s.r.o.") : u8("Bez DIČ"), menaid, kurz, rok);
     }
+    // The taxpayer record of a natural person with a tax office: what a valid filing needs.
+    void nastavPlatce() {
+        Priznani p = m_model->priznani();
+        p.setJmeno(u8("Jan"));
+        p.setPrijmeni(u8("Novák"));
+        p.setUlice(u8("Dlouhá"));
+        p.setC_pop(12);
+        p.setNaz_obce(u8("Praha"));
+        p.setPsc("110 00");
+        p.setDic("CZ7001011234");
+        p.setEmail("jan@example.cz");
+        p.setC_ufo(451);
+        p.setC_pracufo(2001);
+        p.setC_okec(620100);
+        ASSERT_TRUE(m_model->setPriznani(p));
+    }
     int druh(const char* zkratka) { return m_model->getDphDruhIdByZkratka(zkratka); }
     int m_dic = -1;
 };

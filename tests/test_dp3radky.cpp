@@ -3,8 +3,6 @@
 // come from the filing's own records.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdlib>
 #include <map>
 #include <set>
 
@@ -35,19 +33,6 @@ TEST(Dp3Radky, EveryAmountOfTheFilingHasExactlyOneCell) {
     EXPECT_EQ(mist.size(), vsech);  // nothing that the filing does not have
 }
 
-TEST(Dp3Radky, RowNumbersFollowTheForm) {
-    std::vector<int> cisla;
-    for (const auto& oddil : dp3::formOddily())
-        for (const auto& radek : oddil.radky) cisla.push_back(std::atoi(radek.cislo));
-    std::vector<int> ocekavana;
-    const std::pair<int, int> useky[] = {{1, 13}, {20, 26}, {30, 34}, {40, 47}, {50, 53}, {60, 66}};
-    for (const auto& [od, po] : useky)
-        for (int i = od; i <= po; ++i) ocekavana.push_back(i);
-    ocekavana.insert(std::find(ocekavana.begin(), ocekavana.end(), 51), 51);  // with and without deduction
-    EXPECT_EQ(cisla, ocekavana);
-    EXPECT_EQ(dp3::formOddily().size(), 6u);
-}
-
 TEST(Dp3Radky, CellsShowWholeCrownsAndPercentages) {
     const wxString nbsp(wxUniChar(0x00A0));
     struct Pripad {
@@ -73,14 +58,7 @@ TEST(Dp3Radky, CellsShowWholeCrownsAndPercentages) {
     EXPECT_EQ(dp3::formHodnota(Dphdp3(), ""), "");
 }
 
-TEST(Dp3Radky, KindAndPeriodOfTheReturn) {
-    const std::pair<const char*, const char*> formy[] = {{"B", "Řádné přiznání"},
-                                                         {"O", "Řádné opravné přiznání"},
-                                                         {"D", "Dodatečné přiznání"},
-                                                         {"E", "Dodatečné opravné přiznání"},
-                                                         {"X", ""}};
-    for (const auto& [kod, nazev] : formy) EXPECT_EQ(dp3::formaNazev(kod), u8(nazev)) << kod;
-
+TEST(Dp3Radky, PeriodOfTheReturn) {
     Dphdp3 mesic;
     mesic.setAtributValue("VetaD", "rok", 2024);
     mesic.setAtributValue("VetaD", "mesic", 3);

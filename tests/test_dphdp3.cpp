@@ -16,20 +16,7 @@ class Dp3 : public DphFixture {
  protected:
     void SetUp() override {
         DphFixture::SetUp();
-        Priznani p = m_model->priznani();
-        p.setJmeno(u8("Jan"));
-        p.setPrijmeni(u8("Novák"));
-        p.setUlice(u8("Dlouhá"));
-        p.setC_pop(12);
-        p.setNaz_obce(u8("Praha"));
-        p.setPsc("110 00");
-        p.setStat(u8("ČESKÁ REPUBLIKA"));
-        p.setDic("CZ7001011234");
-        p.setEmail("jan@example.cz");
-        p.setC_ufo(451);
-        p.setC_pracufo(2001);
-        p.setC_okec(620100);
-        ASSERT_TRUE(m_model->setPriznani(p));
+        nastavPlatce();
     }
     Dphdp3 vypocet(int mesic, const char* forma = "B", double koef = 0) {
         Dp3Zadani z;
