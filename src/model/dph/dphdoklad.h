@@ -29,5 +29,7 @@ struct DphDoklad {
     wxString kpp;
     wxString krp;
     int kontaktid = 0;
+    int id = 0;         // the document's row in its table (zdroj names the table)
+    int dphdruhid = 0;  // its classification
 };
 using lxDphDokladArray = std::vector<DphDoklad>;

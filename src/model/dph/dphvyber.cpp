@@ -171,6 +171,8 @@ lxDphDokladArray DbModel::dokladyForDph(int dphdruhid, const wxDateTime& od, con
                 const double kurz = d.GetDouble(7) > 0 ? d.GetDouble(7) : 1.0;
                 const int rok = d.GetInt(8);
                 doklad.kontaktid = d.GetInt(9);
+                doklad.id = id;
+                doklad.dphdruhid = dphdruhid;
                 const bool vydaj = (d.GetInt(10) == 1) == t.vydajJeJedna;
                 doklad.zdroj = vydaj ? t.zdrojVydaj : t.zdrojPrijem;
                 doklad.dph = sazby(rok);
