@@ -19,7 +19,7 @@ wxDateTime den(int rok, int mesic, int den) {
 
 }  // namespace
 
-ObdobiPanel::ObdobiPanel(wxWindow* parent, int rok, const DphObdobi& vychozi)
+ObdobiPanel::ObdobiPanel(wxWindow* parent, int rok, const DphObdobi& vychozi, bool volneDatumy)
     : wxPanel(parent, wxID_ANY, wxDefaultPosition, wxDefaultSize, wxTAB_TRAVERSAL, "obdobiPanel"), m_rok(rok) {
     m_mesicVolba = new wxRadioButton(this, wxID_ANY, u8("Měsíc"), wxDefaultPosition, wxDefaultSize, wxRB_GROUP,
                                      wxDefaultValidator, "volbaMesic");
@@ -52,16 +52,23 @@ ObdobiPanel::ObdobiPanel(wxWindow* parent, int rok, const DphObdobi& vychozi)
     grid->Add(m_mesic);
     grid->Add(m_ctvrtletiVolba, wxSizerFlags().CenterVertical());
     grid->Add(m_ctvrtleti);
-    grid->Add(m_datumVolba, wxSizerFlags().CenterVertical());
-    auto* datumRow = new wxBoxSizer(wxHORIZONTAL);
-    datumRow->Add(new wxStaticText(this, wxID_ANY, "od"), wxSizerFlags().CenterVertical().Border(wxRIGHT, 4));
-    datumRow->Add(m_od, wxSizerFlags().CenterVertical());
-    datumRow->Add(new wxStaticText(this, wxID_ANY, "do"), wxSizerFlags().CenterVertical().Border(wxLEFT | wxRIGHT, 4));
-    datumRow->Add(m_do, wxSizerFlags().CenterVertical());
-    grid->Add(datumRow);
+    if (volneDatumy) {
+        grid->Add(m_datumVolba, wxSizerFlags().CenterVertical());
+        auto* datumRow = new wxBoxSizer(wxHORIZONTAL);
+        datumRow->Add(new wxStaticText(this, wxID_ANY, "od"), wxSizerFlags().CenterVertical().Border(wxRIGHT, 4));
+        datumRow->Add(m_od, wxSizerFlags().CenterVertical());
+        datumRow->Add(new wxStaticText(this, wxID_ANY, "do"),
+                      wxSizerFlags().CenterVertical().Border(wxLEFT | wxRIGHT, 4));
+        datumRow->Add(m_do, wxSizerFlags().CenterVertical());
+        grid->Add(datumRow);
+    } else {
+        // The controls stay, hidden, so the rest of the panel need not ask whether they exist.
+        for (wxWindow* w : std::initializer_list<wxWindow*>{m_datumVolba, m_od, m_do}) w->Hide();
+    }
     SetSizerAndFit(grid);
 
-    setDruh(platne ? vychozi.druh : DruhObdobi::Mesic);
+    const bool datumyNabidnuty = volneDatumy || !platne || vychozi.druh != DruhObdobi::Obdobi;
+    setDruh(platne && datumyNabidnuty ? vychozi.druh : DruhObdobi::Mesic);
     for (wxRadioButton* volba : {m_mesicVolba, m_ctvrtletiVolba, m_datumVolba})
         volba->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { enableFields(); });
     m_od->Bind(wxEVT_DATE_CHANGED, [this](wxDateEvent&) { srovnej(true); });

@@ -15,7 +15,9 @@ class ObdobiPanel : public wxPanel {
  public:
     // Months and quarters of the year `rok`; `vychozi` is shown first (an invalid one shows
     // January of `rok`). The free dates start as the whole year unless `vychozi` gives them.
-    ObdobiPanel(wxWindow* parent, int rok, const DphObdobi& vychozi = DphObdobi());
+    // Without `volneDatumy` only a month or a quarter is offered (the EC sales list has no
+    // other period).
+    ObdobiPanel(wxWindow* parent, int rok, const DphObdobi& vychozi = DphObdobi(), bool volneDatumy = true);
 
     // The chosen period; invalid when free dates are chosen and one of them does not read.
     DphObdobi obdobi() const;

@@ -8,7 +8,11 @@
 
 #include "dbmodel.h"
 #include "dph/dphdp3.h"
+#include "dph/dphkh1.h"
+#include "dph/dphshv.h"
 #include "dphdp3print.h"
+#include "dphkh1print.h"
+#include "dphshprint.h"
 #include "prompts.h"
 
 namespace {
@@ -16,13 +20,20 @@ namespace {
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 const char* const INFORMACE = "Informace";
 
-void nahledDphdp3(wxWindow* parent, const wxString& xml) {
-    Dphdp3 priznani;
+// Reads the stored XML into a filing of its kind and previews it; a text that cannot be read
+// is reported and nothing opens.
+template <class P>
+void nahled(wxWindow* parent, const wxString& xml, void (*ukazat)(wxWindow*, const P&)) {
+    P podani;
     wxString chyba;
-    if (!priznani.readFromString(xml, &chyba)) {
+    if (!podani.readFromString(xml, &chyba)) {
         prompts().info(chyba, u8(INFORMACE), parent);
         return;
     }
+    ukazat(parent, podani);
+}
+
+void nahledDphdp3(wxWindow* parent, const Dphdp3& priznani) {
     Dphdp3Print print(parent, priznani);
     print.Preview();
 }
@@ -31,7 +42,9 @@ void nahledDphdp3(wxWindow* parent, const wxString& xml) {
 
 void nahledPodani(wxWindow* parent, int typ, const wxString& xml) {
     switch (typ) {
-        case 0: return nahledDphdp3(parent, xml);
+        case 0: return nahled<Dphdp3>(parent, xml, nahledDphdp3);
+        case 1: return nahled<Dphshv>(parent, xml, nahledDphsh);
+        case 2: return nahled<Dphkh1>(parent, xml, nahledDphkh1);
         default:
             prompts().info(u8("Náhled tohoto druhu podání tato verze programu neumí"), u8(INFORMACE), parent);
     }
