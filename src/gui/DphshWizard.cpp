@@ -123,7 +123,7 @@ bool ShPage2::read(ShZadani* z) {
 // ---------------------------------------------------------------- page 3: the rows
 
 ShPage3::ShPage3(DphshWizard* parent, DbModel* model) : wxWizardPageSimple(parent), m_wizard(parent), m_model(model) {
-    m_list = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(640, 260), wxLC_REPORT | wxLC_SINGLE_SEL,
+    m_list = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(680, 260), wxLC_REPORT | wxLC_SINGLE_SEL,
                             wxDefaultValidator, "radky");
     const struct {
         const char* nazev;

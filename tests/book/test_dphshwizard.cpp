@@ -19,8 +19,10 @@
 
 #include "DphshVetarDialog.h"
 #include "DphshWizard.h"
+#include "UlozeneDialog.h"
 #include "booktest.h"
 #include "controls/lxdatectrl.h"
+#include "dph/dphkh1fill.h"
 #include "dphdoklady.h"
 
 using ::testing::ElementsAre;
@@ -125,7 +127,9 @@ class DphshWizardTest : public BookTest {
         for (const auto& [nazev, dic] : {std::pair{"Gamma GmbH", "DE123456789"}, {"Delta SARL", "FR12345678901"}})
             m_model->addKontaktSAdresou(Kontakt(-1, u8(nazev), "", "", dic, "", true, -1),
                                         Adresa(-1, "", "", "", "", ""));
-        const int eur = m_model->getMena("EUR").id();
+        int eur = 0;
+        for (const auto& mena : m_model->meny())
+            if (mena->kod() == "EUR") eur = mena->id();
         ASSERT_GT(eur, 0);
         // Goods to Gamma twice (1 000 + 234,10), to Delta in euros, services to Gamma once,
         // and goods in April that March does not take.
@@ -234,19 +238,18 @@ TEST_P(DphshRadekOdmitnuti, DialogStaysOpenAndTheListIsUnchanged) {
     const std::vector<std::string> pred = radky(w.page3());
     const std::string xml = w.dphshv().createXml();
     m_prompts.clear();
-    wxWindow* focus = nullptr;
+    wxString focus;  // the dialog is gone afterwards: its field is remembered by name
     EXPECT_FALSE(radkovyDialog([&] { press(w.page3(), "pridat"); },
                                [&](wxDialog* d) {
                                    EXPECT_FALSE(field<wxCheckBox>(d, "storno")->IsEnabled());  // not a follow-up
                                    vyplnit(d, c.stat, c.cislo, c.kod, c.pocet, c.hodnota);
                                    pressOk(d);
-                                   focus = wxWindow::FindFocus();
+                                   if (wxWindow* f = wxWindow::FindFocus()) focus = f->GetName();
                                }));
     ASSERT_GE(m_prompts.shown().size(), 1u);
     EXPECT_EQ(m_prompts.shown()[0].kind, "info");
     EXPECT_EQ(m_prompts.shown()[0].text, u8(c.zprava));
-    ASSERT_NE(focus, nullptr);
-    EXPECT_EQ(focus->GetName(), c.pole);
+    EXPECT_EQ(focus, c.pole);
     EXPECT_EQ(radky(w.page3()), pred);
     EXPECT_EQ(w.dphshv().createXml(), xml);
 }
@@ -274,7 +277,8 @@ TEST_F(DphshWizardTest, RowsAddedEditedDeletedAndComputedAgain) {
     ShPage3* page = w.page3();
 
     EXPECT_TRUE(radkovyDialog([&] { press(page, "pridat"); },
-                              [](wxDialog* d) { vyplnit(d, " at", "U 1234-5678", 2, "3", "1 000,01"); }));
+                              [](wxDialog* d) { vyplnit(d, "at", "U 1234-5678", 2, "3", "1 000,01"); }))
+        << m_prompts.transcript().utf8_string();
     ASSERT_EQ(page->list()->GetItemCount(), 4);
     EXPECT_EQ(radky(page)[3], "AT|U12345678|2|3|1 001,00|");
     EXPECT_EQ(w.dphshv().atributValue("VetaR", "c_rad", 3), "4");
@@ -414,4 +418,55 @@ TEST_F(DphshWizardRealInput, PagesAndThePreviewFromTheModalWizard) {
     w.RunWizard(w.page1());
     EXPECT_TRUE(closed);
     wxTheApp->ProcessIdle();
+}
+
+// A saved list or statement opens its print preview from its stored XML; a text that is not
+// such a filing is reported and opens nothing.
+TEST_F(DphshWizardTest, SavedListsAndStatementsOpenTheirPreview) {
+    ulozitBrezen();
+    Dphkh1 kh;
+    Kh1Zadani z;
+    z.obdobi = DphObdobi::zMesice(2024, 3);
+    z.datumPodani = iso("2024-04-20");
+    kh1::fillData(*m_model, kh, z);
+    const auto nahledy = [] {
+        std::vector<wxPreviewFrame*> out;
+        for (wxWindow* t : wxTopLevelWindows)
+            if (auto* f = dynamic_cast<wxPreviewFrame*>(t); f && !f->IsBeingDeleted()) out.push_back(f);
+        return out;
+    };
+    const struct {
+        int typ;
+        wxString xml;
+        const char* titulek;  // empty: refused
+    } pripady[] = {{1, m_model->ulozene()[0]->xml(), "Souhrnné hlášení VIES"},
+                   {2, kh.saveToString(), "Kontrolní hlášení DPH"},
+                   {1, kh.saveToString(), ""},
+                   {2, "<Pisemnost><DPHKH1><VetaD", ""}};
+    for (const auto& c : pripady) {
+        m_prompts.clear();
+        nahledPodani(m_frame, c.typ, c.xml);
+        const std::vector<wxPreviewFrame*> otevrene = nahledy();
+        if (*c.titulek) {
+            EXPECT_TRUE(m_prompts.shown().empty()) << m_prompts.transcript().utf8_string();
+            ASSERT_EQ(otevrene.size(), 1u) << c.titulek;
+            EXPECT_THAT(otevrene[0]->GetTitle().utf8_string(), HasSubstr(c.titulek));
+            wxString dir;
+            if (wxGetEnv("EVIDA_SCREENSHOTS", &dir) && !dir.empty()) {
+                otevrene[0]->Move(0, 0);
+                for (int i = 0; i < 20; ++i) {
+                    wxYield();
+                    wxMilliSleep(25);
+                }
+                wxExecute(wxString::Format("import -window root %s/nahled-typ%d.png", dir, c.typ), wxEXEC_SYNC);
+            }
+            otevrene[0]->Destroy();
+            wxTheApp->ProcessIdle();
+        } else {
+            EXPECT_TRUE(otevrene.empty());
+            ASSERT_EQ(m_prompts.shown().size(), 1u);
+            EXPECT_EQ(m_prompts.shown()[0].caption, u8("Informace"));
+            EXPECT_FALSE(m_prompts.shown()[0].text.empty());
+        }
+    }
 }
