@@ -37,8 +37,12 @@ const std::vector<PoleSekce>& tabulka() {
         {"A2", {"k_stat", "Kód státu", Druh::TEXT, "Kód státu nemůže být prázdný", {}, 50}},
         {nullptr, {"k_stat", "Kód státu", Druh::TEXT, nullptr, {}, 50}},
         {nullptr,
-         {"vatid_dod", "Identifikace dodavatele (VAT ID)", Druh::TEXT,
-          "Identifikace dodavatele (VAT ID) nemůže být prázdná", {}, 160}},
+         {"vatid_dod",
+          "Identifikace dodavatele (VAT ID)",
+          Druh::TEXT,
+          "Identifikace dodavatele (VAT ID) nemůže být prázdná",
+          {},
+          160}},
         {nullptr, {"vatid_odb", "Identifikace odběratele (VAT ID)", Druh::TEXT, nullptr, {}, 160}},
         {nullptr, {"jm_prijm_obch", "Jméno a příjmení / obchodní firma", Druh::TEXT, nullptr, {}, 260}},
         {nullptr, {"d_narozeni", "Datum narození", Druh::DATUM0, nullptr, {}, 0}},
@@ -93,11 +97,15 @@ wxString text(const Dphkh1& p, kh1::Sekce s, const Pole& pole, int index) {
     const wxString value = p.atributValue(veta, pole.atribut, index);
     if (value.empty()) return value;
     switch (pole.druh) {
-        case Druh::CASTKA: return lxformat::formatCastka(p.castka(veta, pole.atribut, index));
+        case Druh::CASTKA:
+            return lxformat::formatCastka(p.castka(veta, pole.atribut, index));
         case Druh::DATUM:
-        case Druh::DATUM0: return lxformat::formatDatum(p.atributValueDatum(veta, pole.atribut, index));
-        case Druh::DIC: return "CZ" + value;
-        default: return value;
+        case Druh::DATUM0:
+            return lxformat::formatDatum(p.atributValueDatum(veta, pole.atribut, index));
+        case Druh::DIC:
+            return "CZ" + value;
+        default:
+            return value;
     }
 }
 
@@ -124,7 +132,8 @@ Dphkh1VetaDialog::Dphkh1VetaDialog(wxWindow* parent, Dphkh1& p, kh1::Sekce s, in
                 } else {
                     // The counterparty's DIČ is Czech: its prefix stands fixed before the number.
                     auto* row = new wxBoxSizer(wxHORIZONTAL);
-                    row->Add(new wxStaticText(this, wxID_ANY, "CZ"), wxSizerFlags().CentreVertical().Border(wxRIGHT, 4));
+                    row->Add(new wxStaticText(this, wxID_ANY, "CZ"),
+                             wxSizerFlags().CentreVertical().Border(wxRIGHT, 4));
                     row->Add(text, wxSizerFlags().CentreVertical());
                     addField(label.c_str(), row);
                 }
@@ -133,8 +142,8 @@ Dphkh1VetaDialog::Dphkh1VetaDialog(wxWindow* parent, Dphkh1& p, kh1::Sekce s, in
             }
             case Druh::DATUM:
             case Druh::DATUM0: {
-                auto* datum = new lxDateCtrl(this, pole->atribut,
-                                             index >= 0 ? p.atributValueDatum(veta, pole->atribut, index) : wxDateTime());
+                auto* datum = new lxDateCtrl(
+                    this, pole->atribut, index >= 0 ? p.atributValueDatum(veta, pole->atribut, index) : wxDateTime());
                 if (od.IsValid()) datum->setRok(od.GetYear());
                 auto* row = new wxBoxSizer(wxHORIZONTAL);
                 row->Add(datum);

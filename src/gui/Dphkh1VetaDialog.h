@@ -28,11 +28,11 @@ struct Volba {
 
 struct Pole {
     const char* atribut;
-    const char* popis;    // the list's column and the dialog's label
+    const char* popis;  // the list's column and the dialog's label
     Druh druh;
     const char* prazdne;  // the refusal of an empty field; null when it may stay empty
     std::vector<Volba> volby;
-    int sirka;            // of a text field, in pixels
+    int sirka;  // of a text field, in pixels
 };
 
 // The attributes of a section's row in the record's order, without the row number.

@@ -91,8 +91,8 @@ Kh1Page3::Kh1Page3(wxWizard* parent) : wxWizardPageSimple(parent) {
     const char* const nazvy[] = {"Řádné hlášení", "Řádné opravné hlášení", "Následné hlášení",
                                  "Následné opravné hlášení"};
     for (int i = 0; i < 4; ++i) {
-        m_formy[i] = new wxRadioButton(this, wxID_ANY, u8(nazvy[i]), wxDefaultPosition, wxDefaultSize,
-                                       i == 0 ? wxRB_GROUP : 0);
+        m_formy[i] =
+            new wxRadioButton(this, wxID_ANY, u8(nazvy[i]), wxDefaultPosition, wxDefaultSize, i == 0 ? wxRB_GROUP : 0);
         m_formy[i]->SetName(wxString("forma") + FORMY[i]);
         m_formy[i]->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { enableNasledne(); });
         sizer->Add(m_formy[i], 0, wxLEFT | wxTOP, 10);
@@ -100,10 +100,9 @@ Kh1Page3::Kh1Page3(wxWizard* parent) : wxWizardPageSimple(parent) {
     m_dzjist = new lxDateCtrl(this, "datumZjisteni", pracovniDen());
     m_cjVyzvy = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(300, -1), 0, wxDefaultValidator,
                                "cjVyzvy");
-    m_vyzvaOdp = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0, wxDefaultValidator,
-                              "vyzvaOdp");
-    for (const char* text :
-         {"Ne", "Nemám povinnost podat KH (nulové KH)", "Potvrzuji správnost naposledy podaného KH"})
+    m_vyzvaOdp =
+        new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, 0, nullptr, 0, wxDefaultValidator, "vyzvaOdp");
+    for (const char* text : {"Ne", "Nemám povinnost podat KH (nulové KH)", "Potvrzuji správnost naposledy podaného KH"})
         m_vyzvaOdp->Append(u8(text));
     m_vyzvaOdp->SetSelection(0);
 
@@ -144,8 +143,9 @@ bool Kh1Page3::read(Kh1Zadani* z) {
     z->cjVyzvy = m_cjVyzvy->GetValue().Strip(wxString::both);
     z->vyzvaOdp = vyzvaOdp();
     if (!z->vyzvaOdp.empty() && z->cjVyzvy.empty()) {
-        prompts().info(u8("Rychlá odpověď na výzvu se podává jen s číslem jednacím výzvy.\nVyplňte číslo jednací výzvy."),
-                       u8(INFORMACE), this);
+        prompts().info(
+            u8("Rychlá odpověď na výzvu se podává jen s číslem jednacím výzvy.\nVyplňte číslo jednací výzvy."),
+            u8(INFORMACE), this);
         m_cjVyzvy->SetFocus();
         return false;
     }
@@ -173,11 +173,15 @@ const Prikaz PRIKAZY[] = {
 
 int sirkaSloupce(const kh1pole::Pole& pole) {
     switch (pole.druh) {
-        case kh1pole::Druh::CASTKA: return 95;
+        case kh1pole::Druh::CASTKA:
+            return 95;
         case kh1pole::Druh::DATUM:
-        case kh1pole::Druh::DATUM0: return 85;
-        case kh1pole::Druh::VOLBA: return 80;
-        default: return std::max(70, pole.sirka * 2 / 3);
+        case kh1pole::Druh::DATUM0:
+            return 85;
+        case kh1pole::Druh::VOLBA:
+            return 80;
+        default:
+            return std::max(110, pole.sirka * 2 / 3);
     }
 }
 
@@ -274,7 +278,8 @@ wxString Kh1SekcePage::otazkaSmazat(int index) const {
         case kh1::Sekce::A2:
             return wxString::Format(u8("Smazat řádek pro %s%s,\ndoklad %s?"), p.atributValue(veta, "k_stat", index),
                                     p.atributValue(veta, "vatid_dod", index), doklad);
-        case kh1::Sekce::A3: return wxString::Format(u8("Smazat řádek pro doklad %s?"), doklad);
+        case kh1::Sekce::A3:
+            return wxString::Format(u8("Smazat řádek pro doklad %s?"), doklad);
         case kh1::Sekce::B1:
         case kh1::Sekce::B2:
             return wxString::Format(u8("Smazat řádek pro CZ%s,\ndoklad %s?"), p.atributValue(veta, "dic_dod", index),
@@ -310,15 +315,15 @@ void Kh1SekcePage::znovuNacist() {
 Kh1SouhrnPage::Kh1SouhrnPage(Dphkh1Wizard* parent, kh1::Sekce sekce)
     : wxWizardPageSimple(parent), m_wizard(parent), m_sekce(sekce) {
     m_nadpis = nadpis(this);
-    const char* const popisy[] = {"Základ daně\npro základní sazbu",     "Daň\npro základní sazbu",
+    const char* const popisy[] = {"Základ daně\npro základní sazbu",    "Daň\npro základní sazbu",
                                   "Základ daně\npro 1. sníženou sazbu", "Daň\npro 1. sníženou sazbu",
                                   "Základ daně\npro 2. sníženou sazbu", "Daň\npro 2. sníženou sazbu"};
     // A rate line a row: its base beside its tax.
     auto* grid = new wxFlexGridSizer(4, wxSize(8, 10));
     for (int i = 0; i < 6; ++i) {
         m_castky[i] = new lxAmountCtrl(this, lxAmountCtrl::CASTKA, SOUHRN[i]);
-        grid->Add(new wxStaticText(this, wxID_ANY, u8(popisy[i])), wxSizerFlags().CentreVertical().Border(
-                                                                        wxLEFT, i % 2 ? 16 : 0));
+        grid->Add(new wxStaticText(this, wxID_ANY, u8(popisy[i])),
+                  wxSizerFlags().CentreVertical().Border(wxLEFT, i % 2 ? 16 : 0));
         grid->Add(m_castky[i], wxSizerFlags().CentreVertical());
     }
     auto* sizer = new wxBoxSizer(wxVERTICAL);
@@ -336,7 +341,7 @@ void Kh1SouhrnPage::nacist() {
 }
 
 bool Kh1SouhrnPage::ulozit() {
-    const char* const popisy[] = {"Základ daně pro základní sazbu",     "Daň pro základní sazbu",
+    const char* const popisy[] = {"Základ daně pro základní sazbu",    "Daň pro základní sazbu",
                                   "Základ daně pro 1. sníženou sazbu", "Daň pro 1. sníženou sazbu",
                                   "Základ daně pro 2. sníženou sazbu", "Daň pro 2. sníženou sazbu"};
     // Every field is read before anything is written, so a refusal changes nothing.
@@ -374,15 +379,15 @@ Dphkh1Wizard::Dphkh1Wizard(wxWindow* parent, DbModel* model)
             m_sekce.push_back(new Kh1SouhrnPage(this, s));
     }
     PodaniKonecPage::Texty texty;
-    texty.text = u8("Kontrolní hlášení DPH můžete vytisknout nebo\nvyexportovat jako xml soubor.\n\n"
-                    "Podat lze jen jako xml soubor, můžete ho odeslat pomocí datové schránky\nnebo podat pomocí");
+    texty.text =
+        u8("Kontrolní hlášení DPH můžete vytisknout nebo\nvyexportovat jako xml soubor.\n\n"
+           "Podat lze jen jako xml soubor, můžete ho odeslat pomocí datové schránky\nnebo podat pomocí");
     texty.tisk = u8("Tisk přiznání");
     texty.exportu = u8("Export přiznání");
     texty.exportDo = u8("Exportovat hlášení do");
     texty.soubor = "dphkh1.xml";
     m_konec = new PodaniKonecPage(
-        this, texty, [this]() -> const Podani& { return m_p; },
-        [this](const Podani&) { nahledDphkh1(this, m_p); });
+        this, texty, [this]() -> const Podani& { return m_p; }, [this](const Podani&) { nahledDphkh1(this, m_p); });
     m_konec->setPovoleni([this] { return lzePodat(); });
     m_page3->setKonec(m_konec);
 

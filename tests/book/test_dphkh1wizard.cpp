@@ -18,8 +18,8 @@
 #include "dphdoklady.h"
 #include "podanipages.h"
 
-using ::testing::HasSubstr;
 using kh1::Sekce;
+using ::testing::HasSubstr;
 
 namespace {
 
