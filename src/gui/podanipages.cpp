@@ -49,9 +49,13 @@ PodaniKonecPage::PodaniKonecPage(wxWizard* parent, const Texty& texty, std::func
     SetSizer(sizer);
 }
 
-void PodaniKonecPage::tisknout() { m_tisk(m_podani()); }
+void PodaniKonecPage::tisknout() {
+    if (m_povoleni && !m_povoleni()) return;
+    m_tisk(m_podani());
+}
 
 bool PodaniKonecPage::exportovat() {
+    if (m_povoleni && !m_povoleni()) return false;
     const Podani& podani = m_podani();
     // Checked before asking for the file, so nobody chooses a file that is then not written.
     const wxString chyby = podani.validate();
