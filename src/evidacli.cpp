@@ -21,6 +21,17 @@
 //                           output, computed as the wizard does and checked against the
 //                           official schema (a supplementary return is based on the saved
 //                           return ID, or the newest regular one of the period)
+//   evida-cli export dphkh1 FILE --rok Y (--mesic M | --ctvrtleti Q | --od D --do D)
+//                           [--forma B|O|N|E] [--datum D]
+//                           the VAT control statement of the period, likewise
+//   evida-cli export dphshv FILE --rok Y (--mesic M | --ctvrtleti Q) [--forma R|N]
+//                           [--datum D] [--k ID]
+//                           the EC sales list of the period (a follow-up list starts from the
+//                           saved list ID, or the one saved for the period)
+//   evida-cli kontrola FILE --rok Y (--mesic M | --ctvrtleti Q)
+//                           the VAT return against the control statement of the period: the
+//                           differences with their documents and the documents the statement
+//                           cannot place; exit status 0 when all agrees, 3 otherwise
 //
 // Messages are Czech; the technical details of a failure (SQLite's and wxWidgets' own English
 // lines) go to the standard error only with --verbose, which may stand anywhere.
@@ -75,7 +86,7 @@ int usage() {
                                 "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
                                 "  stav SOUBOR            stav pokladen a bankovních účtů\n"
                                 "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n") +
-             evidacli::exportUsage() + "\n" +
+             evidacli::exportUsage() + "\n" + evidacli::kontrolaUsage() + "\n" +
                                 wxString::FromUTF8(
                                 "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
@@ -255,6 +266,14 @@ int main(int argc, char** argv) {
         std::vector<wxString> rest(args.begin() + 1, args.end());
         rest.erase(rest.begin() + 1);  // the company file, opened above
         const int status = evidacli::exportPodani(model, rest);
+        return status == 2 ? usage() : status;
+    }
+    if (command == "kontrola" && args.size() >= 2) {
+        MessagePrinter printer;
+        DbModel model(&printer);
+        model.initModel();
+        if (!open(model, wxFileName(args[1]).GetAbsolutePath())) return 1;
+        const int status = evidacli::kontrolaPodani(model, std::vector<wxString>(args.begin() + 2, args.end()));
         return status == 2 ? usage() : status;
     }
     if (args.size() != (command == "rates" || command == "import" ? 3u : 2u)) return usage();

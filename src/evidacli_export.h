@@ -16,4 +16,10 @@ int exportPodani(DbModel& model, const std::vector<wxString>& args);
 // The usage lines of the command.
 wxString exportUsage();
 
+// `args` are the options after "kontrola FILE". Prints the comparison of the VAT return and
+// the control statement of the period; returns 0 when they agree, 3 when there are
+// differences or documents the statement cannot place, 1 on a bad period, 2 wrong usage.
+int kontrolaPodani(DbModel& model, const std::vector<wxString>& args);
+wxString kontrolaUsage();
+
 }  // namespace evidacli

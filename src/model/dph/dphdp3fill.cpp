@@ -3,6 +3,7 @@
 #include <map>
 
 #include "dbmodel.h"
+#include "vetap.h"
 
 namespace {
 
@@ -105,27 +106,6 @@ void fillRadek(DbModel& model, Dphdp3& p, const RadekDp3& radek, const wxDateTim
     for (const auto& [name, sum] : sumy) p.setCastka(wxString::FromUTF8(name), sum);
 }
 
-// The taxpayer's DIČ in the filing is its number without the country prefix.
-wxString kmenovaCastDic(const wxString& dic) {
-    wxString cislo;
-    for (wxUniChar c : dic) {
-        if (c >= '0' && c <= '9') cislo += c;
-    }
-    return cislo;
-}
-
-wxString kodTypuZastupce(const wxString& typ) {
-    if (typ == wxString::FromUTF8("Fyzická osoba") || typ == "F") return "F";
-    if (typ == wxString::FromUTF8("Právnická osoba") || typ == "P") return "P";
-    return wxString();
-}
-
-void setText(Dphdp3& p, const char* atribut, const wxString& value) { p.setAtributValue("VetaP", atribut, value); }
-
-void setKod(Dphdp3& p, const char* veta, const char* atribut, int value) {
-    if (value > 0) p.setAtributValue(veta, atribut, value);
-}
-
 }  // namespace
 
 namespace dp3 {
@@ -136,7 +116,7 @@ void fillHlavicka(DbModel& model, Dphdp3& p, const Dp3Zadani& z) {
     p.setAtributValue("VetaD", "k_uladis", wxString("DPH"));
     p.setAtributValue("VetaD", "dapdph_forma", z.forma);
     p.setAtributValue("VetaD", "kod_zo", z.kodZo);
-    setKod(p, "VetaD", "c_okec", pr.c_okec());
+    if (pr.c_okec() > 0) p.setAtributValue("VetaD", "c_okec", pr.c_okec());
     // Every return this program makes is a VAT payer's (its VAT menu is a payer's only).
     p.setAtributValue("VetaD", "typ_platce", wxString("P"));
     p.setAtributValue("VetaD", "d_poddp", z.datumPodani);
@@ -151,43 +131,7 @@ void fillHlavicka(DbModel& model, Dphdp3& p, const Dp3Zadani& z) {
             break;
     }
 
-    setText(p, "c_orient", pr.c_orient());
-    setKod(p, "VetaP", "c_pop", pr.c_pop());
-    setKod(p, "VetaP", "c_pracufo", pr.c_pracufo());
-    setText(p, "c_telef", pr.c_telef());
-    setKod(p, "VetaP", "c_ufo", pr.c_ufo());
-    setText(p, "dic", kmenovaCastDic(pr.dic()));
-    setText(p, "email", pr.email());
-    setText(p, "jmeno", pr.jmeno());
-    setText(p, "naz_obce", pr.naz_obce());
-    setText(p, "opr_jmeno", pr.opr_jmeno());
-    setText(p, "opr_postaveni", pr.opr_postaveni());
-    setText(p, "opr_prijmeni", pr.opr_prijmeni());
-    setText(p, "prijmeni", pr.prijmeni());
-    wxString psc = pr.psc();
-    psc.Replace(" ", "");
-    setText(p, "psc", psc);
-    setText(p, "stat", pr.stat());
-    setText(p, "titul", pr.titul());
-    // A taxpayer with a surname is a natural person; otherwise a legal person by its
-    // business name.
-    const bool fyzicka = !pr.prijmeni().empty();
-    setText(p, "typ_ds", fyzicka ? "F" : "P");
-    if (!fyzicka) setText(p, "zkrobchjm", model.firma().nazev());
-    setText(p, "ulice", pr.ulice());
-    const wxString typZastupce = kodTypuZastupce(pr.zast_typ());
-    if (!typZastupce.empty()) {
-        p.setAtributValue("VetaP", "zast_dat_nar", vetaformat::parseDatum(pr.zast_dat_nar()).IsValid()
-                                                       ? pr.zast_dat_nar()
-                                                       : wxString());
-        setText(p, "zast_ev_cislo", pr.zast_ev_cislo());
-        setText(p, "zast_ic", pr.zast_ic());
-        setText(p, "zast_jmeno", pr.zast_jmeno());
-        setText(p, "zast_kod", pr.zast_kod().BeforeFirst(' '));
-        setText(p, "zast_nazev", pr.zast_nazev());
-        setText(p, "zast_prijmeni", pr.zast_prijmeni());
-        setText(p, "zast_typ", typZastupce);
-    }
+    podani::fillVetaP(model, p);
 }
 
 void fillVeta1to6(DbModel& model, Dphdp3& p, const wxDateTime& od, const wxDateTime& doDne, double koefP20Nov) {
@@ -259,18 +203,7 @@ wxString popis(const wxString& forma, const DphObdobi& obdobi) {
 }
 
 Ulozene ulozene(const Dphdp3& p, const Dp3Zadani& z) {
-    Ulozene u;
-    u.setTyp(0);
-    u.setPopis(popis(z.forma, z.obdobi));
-    u.setForma(z.forma);
-    u.setObdobi(static_cast<int>(z.obdobi.druh));
-    u.setMesic(z.obdobi.mesic);
-    u.setCtvrtleti(z.obdobi.ctvrtleti);
-    u.setRok(z.obdobi.rok);
-    u.setDatumOd(z.obdobi.od);
-    u.setDatumDo(z.obdobi.doDne);
-    u.setXml(p.saveToString());
-    return u;
+    return podani::ulozene(0, popis(z.forma, z.obdobi), z.forma, z.obdobi, p);
 }
 
 }  // namespace dp3

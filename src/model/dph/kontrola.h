@@ -20,6 +20,8 @@ struct Doklad {
     double dan = 0;
     bool vPriznani = false;
     bool vHlaseni = false;
+    int vHlaseniKrat = 0;  // how many sections of the statement hold it (a document of exactly
+                           // the limit is in A.4 and A.5)
 };
 
 struct Rozdil {

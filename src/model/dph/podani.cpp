@@ -182,10 +182,12 @@ std::string Podani::createXml() const {
     xmlNewProp(root, x("verzeSW"), x(lxutils::EVIDA_VERSION));
     xmlNodePtr podani = xmlNewChild(root, nullptr, x(m_element.utf8_str().data()), nullptr);
     for (const Veta& v : m_vety) {
-        if (!v.isForXml()) continue;
+        // A record without a value says nothing, and a quick answer to a summons must carry no
+        // section of the control statement at all: empty records are not written.
+        if (!v.isForXml() || v.isEmpty()) continue;
         xmlNodePtr node = xmlNewChild(podani, nullptr, x(v.name().utf8_str().data()), nullptr);
         for (const Atribut& a : v.atributy()) {
-            if (!a.value.empty()) xmlNewProp(node, x(a.name.utf8_str().data()), x(a.value.utf8_str().data()));
+            if (!a.value.empty() && a.typ != AtributTyp::Pomocny) xmlNewProp(node, x(a.name.utf8_str().data()), x(a.value.utf8_str().data()));
         }
     }
     xmlChar* buffer = nullptr;

@@ -9,7 +9,9 @@
 
 #include <vector>
 
-enum class AtributTyp { Text, Integer, Double, Datum };
+// Pomocny: a working value the program keeps with a record (an unrounded running total, …)
+// that is never written into the file.
+enum class AtributTyp { Text, Integer, Double, Datum, Pomocny };
 
 struct Atribut {
     wxString name;

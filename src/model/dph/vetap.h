@@ -1,9 +1,10 @@
 // The parts every VAT filing shares: the taxpayer record VetaP filled from the taxpayer's
-// settings, and the period attributes of VetaD.
+// settings, and the row a finished filing is saved as.
 #pragma once
 
 #include "dphobdobi.h"
 #include "podani.h"
+#include "records.h"
 
 class DbModel;
 
@@ -14,5 +15,9 @@ namespace podani {
 void fillVetaP(DbModel& model, Podani& p);
 // The taxpayer's DIČ without the country prefix, digits only.
 wxString kmenovaCastDic(const wxString& dic);
+
+// The saved-filings row of a finished filing: its kind (0 return, 1 EC sales list, 2 control
+// statement), description, form code, period and XML.
+Ulozene ulozene(int typ, const wxString& popis, const wxString& forma, const DphObdobi& obdobi, const Podani& p);
 
 }  // namespace podani
