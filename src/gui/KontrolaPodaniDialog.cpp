@@ -92,24 +92,35 @@ wxDateTime datumDokladu(const DphDoklad& d) {
 }
 
 wxString kdeZapocten(const kontrola::Doklad& d) {
-    if (d.vPriznani && d.vHlaseni) return u8("započten v přiznání i v kontrolním hlášení");
-    if (d.vPriznani) return u8("započten jen v přiznání");
-    if (d.vHlaseni) return u8("započten jen v kontrolním hlášení");
-    return u8("nezapočten v přiznání ani v kontrolním hlášení");
+    wxString text;
+    if (d.vPriznani && d.vHlaseni)
+        text = u8("započten v přiznání i v kontrolním hlášení");
+    else if (d.vPriznani)
+        text = u8("započten jen v přiznání");
+    else if (d.vHlaseni)
+        text = u8("započten jen v kontrolním hlášení");
+    if (d.vHlaseniKrat > 1) text += wxString::Format(u8(", v kontrolním hlášení %d×"), d.vHlaseniKrat);
+    return text;
 }
 
-Radek dokladRadek(const kontrola::Doklad& d, const wxString& poznamka) {
+// A document under a difference says on which side it is counted; one the statement cannot
+// place gives its section and the reason instead.
+Radek dokladRadek(const kontrola::Doklad& d, const kontrola::Nezarazeny* nezarazeny) {
     Bunky b;
     b.text[DOKLAD] = d.doklad.cislo;
     b.text[DATUM] = lxformat::formatDatum(datumDokladu(d.doklad));
     b.set(ZAKLAD, d.zaklad);
     b.set(DAN, d.dan);
-    b.text[PRIZNANI] = anoNe(d.vPriznani);
-    b.text[HLASENI] = anoNe(d.vHlaseni);
-    b.text[POZNAMKA] = poznamka;
-    wxString popis = wxString::Format(u8("Doklad %s ze dne %s: základ %s, daň %s, %s"), d.doklad.cislo, b.text[DATUM],
-                                      kc(d.zaklad), kc(d.dan), kdeZapocten(d));
-    if (!poznamka.empty()) popis += ". " + poznamka;
+    wxString popis = wxString::Format(u8("Doklad %s ze dne %s: základ %s, daň %s"), d.doklad.cislo, b.text[DATUM],
+                                      kc(d.zaklad), kc(d.dan));
+    if (nezarazeny) {
+        b.text[POZNAMKA] = nezarazeny->sekce + ": " + nezarazeny->duvod;
+        popis += u8(". Oddíl ") + b.text[POZNAMKA];
+    } else {
+        b.text[PRIZNANI] = anoNe(d.vPriznani);
+        b.text[HLASENI] = d.vHlaseniKrat > 1 ? wxString::Format(u8("%d×"), d.vHlaseniKrat) : anoNe(d.vHlaseni);
+        popis += ", " + kdeZapocten(d);
+    }
     Radek r = radek(Radek::Druh::DOKLAD, b, popis);
     r.zdroj = d.doklad.zdroj;
     r.id = d.id;
@@ -229,17 +240,19 @@ void KontrolaPodaniDialog::zobrazit(const kontrola::Vysledek& vysledek) {
     }
     for (const kontrola::Rozdil& rozdil : vysledek.rozdily) {
         addRadek(rozdilRadek(rozdil));
-        for (const kontrola::Doklad& d : rozdil.doklady) addRadek(dokladRadek(d, wxString()));
+        for (const kontrola::Doklad& d : rozdil.doklady) addRadek(dokladRadek(d, nullptr));
     }
     if (!vysledek.nezarazene.empty()) {
         addRadek(nadpisRadek(u8("Doklady, které kontrolní hlášení nezařadí")));
-        for (const kontrola::Nezarazeny& n : vysledek.nezarazene)
-            addRadek(dokladRadek(n.doklad, n.sekce + ": " + n.duvod));
+        for (const kontrola::Nezarazeny& n : vysledek.nezarazene) addRadek(dokladRadek(n.doklad, &n));
     }
-    // The first column takes the longest heading or number, within reason.
-    m_list->SetColumnWidth(DOKLAD, wxLIST_AUTOSIZE);
-    const int sirka = m_list->GetColumnWidth(DOKLAD);
-    m_list->SetColumnWidth(DOKLAD, std::clamp(sirka + 12, SLOUPCE[DOKLAD].sirka, 520));
+    // The headings and the reasons are read whole where they fit within reason; the line under
+    // the list gives the rest of the selected one.
+    for (Sloupec s : {DOKLAD, POZNAMKA}) {
+        int sirka = SLOUPCE[s].sirka;
+        for (const Radek& r : m_radky) sirka = std::max(sirka, sirkaTextu(r.sloupce[s], r.druh != Radek::Druh::DOKLAD));
+        m_list->SetColumnWidth(s, std::min(sirka, 520));
+    }
     m_export->Enable(!m_radky.empty());
     onSelection();
 }
@@ -253,6 +266,14 @@ void KontrolaPodaniDialog::addRadek(Radek r) {
         m_list->SetItemFont(i, font);
     }
     m_radky.push_back(std::move(r));
+}
+
+int KontrolaPodaniDialog::sirkaTextu(const wxString& text, bool tucne) const {
+    wxFont font = m_list->GetFont();
+    if (tucne) font.SetWeight(wxFONTWEIGHT_BOLD);
+    int sirka = 0, vyska = 0;
+    m_list->GetTextExtent(text, &sirka, &vyska, nullptr, nullptr, &font);
+    return sirka + 16;  // the cell's margins
 }
 
 int KontrolaPodaniDialog::selectedRow() const {

@@ -51,6 +51,8 @@ class KontrolaPodaniDialog : public wxDialog {
     void addRadek(Radek radek);
     void onSelection();
     int selectedRow() const;
+    // The width a column needs for `text`, bold for headings.
+    int sirkaTextu(const wxString& text, bool tucne) const;
 
     ObdobiPanel* m_obdobi = nullptr;
     wxListCtrl* m_list = nullptr;

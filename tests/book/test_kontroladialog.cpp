@@ -122,6 +122,12 @@ TEST_F(KontrolaDialogTest, AgreeingPeriodSaysSoInOneLine) {
             dialog.list()->GetItemText(0, 0),
             wxString::Format(u8("Přiznání a kontrolní hlášení za %s/2024 se shodují."), lxutils::mesicString(mesic)));
         EXPECT_EQ(dialog.radky()[0].druh, KontrolaPodaniDialog::Radek::Druh::SHODA);
+        // The line is bold and read whole, not cut off by its column.
+        wxFont font = dialog.list()->GetFont();
+        font.SetWeight(wxFONTWEIGHT_BOLD);
+        int sirka = 0, vyska = 0;
+        dialog.list()->GetTextExtent(dialog.list()->GetItemText(0, 0), &sirka, &vyska, nullptr, nullptr, &font);
+        EXPECT_GT(dialog.list()->GetColumnWidth(0), sirka);
     }
     EXPECT_TRUE(m_prompts.shown().empty());
     screenshot(dialog, "kontrola-shoda");
@@ -131,32 +137,39 @@ TEST_F(KontrolaDialogTest, DifferenceListsItsRowAmountsAndTheDocumentBehindIt) {
     KontrolaPodaniDialog dialog(m_frame);
     zkontrolovat(dialog, 4);
     wxListCtrl* list = dialog.list();
-    ASSERT_GT(list->GetItemCount(), 1);
-    // The first line is the difference of row 1's tax: 2 100 in the return that the statement lacks.
-    EXPECT_THAT(list->GetItemText(0, 0).utf8_string(), StartsWith(u8("Řádek 1").utf8_string()));
-    EXPECT_EQ(dialog.radky()[0].druh, KontrolaPodaniDialog::Radek::Druh::SKUPINA);
+    // Row 1 differs in its base by 10 000 and in its tax by 2 100, both in the return only;
+    // each difference heads its lines with the two sides and the difference.
     const kontrola::Vysledek v = kontrola::zkontrolovat(*m_model, DphObdobi::zMesice(2024, 4));
-    ASSERT_FALSE(v.rozdily.empty());
-    const kontrola::Rozdil& r = v.rozdily.front();
-    EXPECT_EQ(list->GetItemText(0, 4), lxformat::formatCastka(r.priznani));
-    EXPECT_EQ(list->GetItemText(0, 5), lxformat::formatCastka(r.hlaseni));
-    EXPECT_NEAR(r.priznani - r.hlaseni, 2100, 0.5);
-    EXPECT_EQ(list->GetItemText(0, 6), u8("rozdíl ") + lxformat::formatCastka(r.priznani - r.hlaseni, u8("Kč")));
+    ASSERT_EQ(v.rozdily.size(), 2u);
+    EXPECT_TRUE(v.nezarazene.empty());
+    const double ocekavane[] = {10000, 2100};
+    for (size_t i = 0; i < v.rozdily.size(); ++i) {
+        const kontrola::Rozdil& r = v.rozdily[i];
+        EXPECT_NEAR(r.priznani - r.hlaseni, ocekavane[i], 0.5) << r.nazev;
+        const long skupina = rowOf(list, r.nazev);
+        ASSERT_GE(skupina, 0) << r.nazev;
+        EXPECT_EQ(dialog.radky()[skupina].druh, KontrolaPodaniDialog::Radek::Druh::SKUPINA);
+        EXPECT_EQ(list->GetItemText(skupina, 4), lxformat::formatCastka(r.priznani));
+        EXPECT_EQ(list->GetItemText(skupina, 5), lxformat::formatCastka(r.hlaseni));
+        EXPECT_EQ(list->GetItemText(skupina, 6), u8("rozdíl ") + lxformat::formatCastka(ocekavane[i], u8("Kč")));
+        EXPECT_EQ(list->GetItemText(skupina + 1, 0), m_chybny.cislo) << "the document follows " << r.nazev;
+    }
+    EXPECT_THAT(list->GetItemText(0, 0).utf8_string(), StartsWith(u8("Řádek 1").utf8_string()));
 
     const long doklad = rowOf(list, m_chybny.cislo);
     ASSERT_GT(doklad, 0) << "the document behind the difference is listed";
     EXPECT_EQ(list->GetItemText(doklad, 1), "15.04.2024");
-    EXPECT_EQ(list->GetItemText(doklad, 2), u8("10 000,00"));
-    EXPECT_EQ(list->GetItemText(doklad, 3), u8("2 100,00"));
+    EXPECT_EQ(list->GetItemText(doklad, 2), lxformat::formatCastka(10000));
+    EXPECT_EQ(list->GetItemText(doklad, 3), lxformat::formatCastka(2100));
     EXPECT_EQ(list->GetItemText(doklad, 4), "ano");
     EXPECT_EQ(list->GetItemText(doklad, 5), "ne");
     EXPECT_EQ(dialog.radky()[doklad].zdroj, "FV");
     EXPECT_EQ(dialog.radky()[doklad].id, m_chybny.id);
     // Selecting the difference spells it out under the list.
     selectRow(list, 0);
-    EXPECT_THAT(
-        field<wxStaticText>(&dialog, "popis")->GetLabel().utf8_string(),
-        HasSubstr(u8(": přiznání ").utf8_string() + lxformat::formatCastka(r.priznani, u8("Kč")).utf8_string()));
+    EXPECT_THAT(field<wxStaticText>(&dialog, "popis")->GetLabel().utf8_string(),
+                HasSubstr(u8(": přiznání ").utf8_string() +
+                          lxformat::formatCastka(v.rozdily[0].priznani, u8("Kč")).utf8_string()));
     screenshot(dialog, "kontrola-rozdil");
 }
 
@@ -174,8 +187,10 @@ TEST_F(KontrolaDialogTest, SaleOverTheLimitWithoutVatIdIsListedAsNotPlaced) {
     const long doklad = rowOf(list, m_bezDic.cislo);
     ASSERT_GT(doklad, nadpis) << "the document follows its heading";
     EXPECT_EQ(list->GetItemText(doklad, 6), n.sekce + ": " + n.duvod);
-    EXPECT_EQ(list->GetItemText(doklad, 2), u8("20 000,00"));
-    EXPECT_EQ(list->GetItemText(doklad, 3), u8("4 200,00"));
+    EXPECT_EQ(list->GetItemText(doklad, 2), lxformat::formatCastka(20000));
+    EXPECT_EQ(list->GetItemText(doklad, 3), lxformat::formatCastka(4200));
+    EXPECT_EQ(list->GetItemText(doklad, 4), "") << "a document not placed is not marked for the sides";
+    screenshot(dialog, "kontrola-nezarazene");
     EXPECT_EQ(list->GetItemCount(), nadpis + 2) << "the one document ends the list";
 }
 
