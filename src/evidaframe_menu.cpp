@@ -10,6 +10,7 @@
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
 #include "PredkontacesDialog.h"
+#include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
@@ -78,9 +79,8 @@ const int LATER_ITEMS[] = {
 
 // The VAT commands are for VAT payers only. The EC sales list is not part of the program yet:
 // its item stays disabled even for a VAT payer.
-const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH,
-                               evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_DPH_PRIZNANI,
-                               evidaFrame::ID_DPH_KONTROLNI};
+const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_DPH_SEZNAM,
+                               evidaFrame::ID_DPH_PRIZNANI,     evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_KONTROLA_PODANI};
 
 bool isVatItemReady(int id) {
     for (int ready : VAT_ITEMS_READY) {
@@ -115,6 +115,7 @@ void evidaFrame::createMenuBar() {
     m_dphItems = {dph->Append(ID_DPH_PRIZNANI, u8("Přiznání k DPH")),
                   dph->Append(ID_DPH_KONTROLNI, u8("Kontrolní hlášení DPH")),
                   dph->Append(ID_DPH_SOUHRNNE, u8("Souhrnné hlášení DPH")),
+                  dph->Append(ID_KONTROLA_PODANI, u8("Kontrola podání")),
                   dph->Append(ID_DPH_SEZNAM, u8("Seznam dokladů k DPH"))};
     auto* dane = new wxMenu();
     dane->Append(ID_PREHLED_PRIJMU, u8("Přehled příjmů a výdajů"));
@@ -206,6 +207,12 @@ void evidaFrame::createMenuBar() {
             if (m_model && m_model->isFirmaPlatce()) showCodeList<SeznamDphDialog>(this, m_model.get());
         },
         ID_DPH_SEZNAM);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            if (m_model && m_model->isFirmaPlatce()) showCodeList<KontrolaPodaniDialog>(this, m_model.get());
+        },
+        ID_KONTROLA_PODANI);
     Bind(
         wxEVT_MENU,
         [this](wxCommandEvent&) {

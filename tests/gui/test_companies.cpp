@@ -183,6 +183,7 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_SEZNAM));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_KONTROLNI));
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_KONTROLA_PODANI));
     EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_SOUHRNNE));
     // Without the tax administration's code lists the return asks to download them first;
     // declined, no wizard opens.
@@ -202,6 +203,9 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
     command(evidaFrame::ID_DPH_SEZNAM);
     EXPECT_EQ(m_dialogs.titles.back(), u8("Seznam dokladů DPH"));
+    m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
+    command(evidaFrame::ID_KONTROLA_PODANI);
+    EXPECT_EQ(m_dialogs.titles.back(), u8("Kontrola podání"));
     EXPECT_FALSE(m_frame->jizdyShown());
     m_prompts.clear();
     command(evidaFrame::ID_ULOZENA_PRIZNANI);
