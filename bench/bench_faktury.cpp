@@ -24,6 +24,8 @@
 #include "companysetup.h"
 #include "dbmodel.h"
 #include "dph/dphdp3fill.h"
+#include "dph/dphkh1fill.h"
+#include "dph/kontrola.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 
@@ -256,6 +258,22 @@ void registerAll() {
             });
         });
         add("dphdp3Mesic_floor", [years](benchmark::State& s) { onPlain(s, years, DPH_MESICE_FLOOR); });
+        // The control statement reads every document of the month once a section; the check
+        // before filing computes the return and the statement together.
+        add("dphkh1Mesic", [years](benchmark::State& s) {
+            onModel(s, years, [](DbModel& m) {
+                Kh1Zadani z;
+                z.obdobi = DphObdobi::zMesice(m.currentRok(), 3);
+                Dphkh1 p;
+                kh1::fillData(m, p, z);
+                benchmark::DoNotOptimize(p.pocetVet("VetaA4"));
+            });
+        });
+        add("kontrolaMesic", [years](benchmark::State& s) {
+            onModel(s, years, [](DbModel& m) {
+                benchmark::DoNotOptimize(kontrola::zkontrolovat(m, DphObdobi::zMesice(m.currentRok(), 3)).vPoradku());
+            });
+        });
     }
 }
 

@@ -39,6 +39,7 @@ class evidaFrame : public wxFrame {
         ID_DPH_PRIZNANI,
         ID_DPH_KONTROLNI,
         ID_DPH_SOUHRNNE,
+        ID_KONTROLA_PODANI,
         ID_DPH_SEZNAM,
         ID_ULOZENA_PRIZNANI,
         ID_ZALOHOVAT,

@@ -6,9 +6,11 @@
 
 #include "DphDruhyDialog.h"
 #include "Dphdp3Wizard.h"
+#include "Dphkh1Wizard.h"
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
 #include "PredkontacesDialog.h"
+#include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
@@ -75,10 +77,10 @@ const int LATER_ITEMS[] = {
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
-// The six VAT commands are for VAT payers only. The control statement and the EC sales list
-// are not part of the program yet: their items stay disabled even for a VAT payer.
-const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH,
-                               evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_DPH_PRIZNANI};
+// The VAT commands are for VAT payers only. The EC sales list is not part of the program yet:
+// its item stays disabled even for a VAT payer.
+const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_DPH_SEZNAM,
+                               evidaFrame::ID_DPH_PRIZNANI,     evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_KONTROLA_PODANI};
 
 bool isVatItemReady(int id) {
     for (int ready : VAT_ITEMS_READY) {
@@ -113,6 +115,7 @@ void evidaFrame::createMenuBar() {
     m_dphItems = {dph->Append(ID_DPH_PRIZNANI, u8("Přiznání k DPH")),
                   dph->Append(ID_DPH_KONTROLNI, u8("Kontrolní hlášení DPH")),
                   dph->Append(ID_DPH_SOUHRNNE, u8("Souhrnné hlášení DPH")),
+                  dph->Append(ID_KONTROLA_PODANI, u8("Kontrola podání")),
                   dph->Append(ID_DPH_SEZNAM, u8("Seznam dokladů k DPH"))};
     auto* dane = new wxMenu();
     dane->Append(ID_PREHLED_PRIJMU, u8("Přehled příjmů a výdajů"));
@@ -207,11 +210,30 @@ void evidaFrame::createMenuBar() {
     Bind(
         wxEVT_MENU,
         [this](wxCommandEvent&) {
+            if (m_model && m_model->isFirmaPlatce()) showCodeList<KontrolaPodaniDialog>(this, m_model.get());
+        },
+        ID_KONTROLA_PODANI);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
             if (!m_model || !m_model->isOpen() || !m_model->isFirmaPlatce() || !ensureCiselniky(this, true)) return;
             Dphdp3Wizard wizard(this, m_model.get());
             wizard.run();
         },
         ID_DPH_PRIZNANI);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            if (!m_model || !m_model->isOpen() || !m_model->isFirmaPlatce()) return;
+            if (m_model->currentRok() < 2016) {
+                prompts().info(u8("Kontrolní hlášení se podává až od roku 2016."), u8("Informace"), this);
+                return;
+            }
+            if (!ensureCiselniky(this, false)) return;
+            Dphkh1Wizard wizard(this, m_model.get());
+            wizard.run();
+        },
+        ID_DPH_KONTROLNI);
     Bind(wxEVT_MENU, &evidaFrame::onUlozenaPriznani, this, ID_ULOZENA_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onZalohovat, this, ID_ZALOHOVAT);
     Bind(wxEVT_MENU, &evidaFrame::onObnovit, this, ID_OBNOVIT);

@@ -256,8 +256,8 @@ DphshWizard::DphshWizard(wxWindow* parent, DbModel* model)
     texty.exportDo = u8("Exportovat hlášení do");
     texty.soubor = "dphshv.xml";
     m_page4 = new PodaniKonecPage(
-        this, texty, [this]() -> const Podani& { return m_shv; }, [this](const Podani&) { nahledDphsh(this, m_shv); },
-        [this]() { return lzePodat(); });
+        this, texty, [this]() -> const Podani& { return m_shv; }, [this](const Podani&) { nahledDphsh(this, m_shv); });
+    m_page4->setPovoleni([this]() { return lzePodat(); });
     wxWizardPageSimple::Chain(m_page1, m_page2);
     wxWizardPageSimple::Chain(m_page2, m_page3);
     wxWizardPageSimple::Chain(m_page3, m_page4);

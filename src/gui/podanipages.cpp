@@ -30,12 +30,8 @@ PodaniUvodPage::PodaniUvodPage(wxWizard* parent, DbModel* model, const wxString&
 }
 
 PodaniKonecPage::PodaniKonecPage(wxWizard* parent, const Texty& texty, std::function<const Podani&()> podani,
-                                 std::function<void(const Podani&)> tisk, std::function<bool()> lzePodat)
-    : wxWizardPageSimple(parent),
-      m_texty(texty),
-      m_podani(std::move(podani)),
-      m_tisk(std::move(tisk)),
-      m_lzePodat(std::move(lzePodat)) {
+                                 std::function<void(const Podani&)> tisk)
+    : wxWizardPageSimple(parent), m_texty(texty), m_podani(std::move(podani)), m_tisk(std::move(tisk)) {
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     sizer->Add(new wxStaticText(this, wxID_ANY, texty.text), 0, wxLEFT | wxRIGHT | wxTOP, 10);
     sizer->Add(new wxHyperlinkCtrl(this, wxID_ANY, u8("Elektronická podání pro finanční správu"), EPO_URL), 0,
@@ -54,12 +50,12 @@ PodaniKonecPage::PodaniKonecPage(wxWizard* parent, const Texty& texty, std::func
 }
 
 void PodaniKonecPage::tisknout() {
-    if (m_lzePodat && !m_lzePodat()) return;
+    if (m_povoleni && !m_povoleni()) return;
     m_tisk(m_podani());
 }
 
 bool PodaniKonecPage::exportovat() {
-    if (m_lzePodat && !m_lzePodat()) return false;
+    if (m_povoleni && !m_povoleni()) return false;
     const Podani& podani = m_podani();
     // Checked before asking for the file, so nobody chooses a file that is then not written.
     const wxString chyby = podani.validate();

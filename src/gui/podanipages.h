@@ -36,9 +36,13 @@ class PodaniKonecPage : public wxWizardPageSimple {
     // Returns whether a file was written.
     bool exportovat();
     void tisknout();
+    // A check run before printing and exporting; when it returns false (having said why),
+    // neither happens. None by default.
+    void setPovoleni(std::function<bool()> povoleni) { m_povoleni = std::move(povoleni); }
 
  private:
     Texty m_texty;
+    std::function<bool()> m_povoleni;
     std::function<const Podani&()> m_podani;
     std::function<void(const Podani&)> m_tisk;
     std::function<bool()> m_lzePodat;

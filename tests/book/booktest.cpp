@@ -3,6 +3,7 @@
 #include <wx/app.h>
 #include <wx/button.h>
 #include <wx/listctrl.h>
+#include <wx/radiobut.h>
 #include <wx/textctrl.h>
 #include <wx/filename.h>
 #include <wx/utils.h>
@@ -113,6 +114,31 @@ void pressOk(wxDialog* dialog) {
     wxCommandEvent event(wxEVT_BUTTON, wxID_OK);
     event.SetEventObject(ok);
     ok->ProcessWindowEvent(event);
+}
+
+void pressButton(wxWindow* parent, const char* name) {
+    auto* button = field<wxButton>(parent, name);
+    ASSERT_TRUE(button) << name;
+    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
+    event.SetEventObject(button);
+    button->ProcessWindowEvent(event);
+}
+
+void selectRadio(wxWindow* parent, const char* name) {
+    auto* radio = field<wxRadioButton>(parent, name);
+    ASSERT_TRUE(radio) << name;
+    radio->SetValue(true);
+    wxCommandEvent event(wxEVT_RADIOBUTTON, radio->GetId());
+    event.SetEventObject(radio);
+    radio->ProcessWindowEvent(event);
+}
+
+void wizardNext(wxDialog& wizard) {
+    wxWindow* button = wizard.FindWindow(wxID_FORWARD);
+    ASSERT_TRUE(button);
+    wxCommandEvent event(wxEVT_BUTTON, wxID_FORWARD);
+    event.SetEventObject(button);
+    button->ProcessWindowEvent(event);
 }
 
 Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {

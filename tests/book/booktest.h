@@ -43,6 +43,12 @@ void choose(wxChoice* choice, int index);
 int menaIndex(wxChoice* mena, const char* kod);
 // Presses the dialog's OK button as a click does.
 void pressOk(wxDialog* dialog);
+// Clicks the button called `name` inside `parent`.
+void pressButton(wxWindow* parent, const char* name);
+// Selects the radio button called `name` inside `parent`; its page hears of it.
+void selectRadio(wxWindow* parent, const char* name);
+// Presses a wizard's "Další" (or "Dokončit") as its own button does.
+void wizardNext(wxDialog& wizard);
 // What happened when OK was pressed: whether the dialog closed, and where the focus was
 // left when it stayed open.
 struct Outcome {

@@ -182,7 +182,8 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_CLENENI_DPH));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_SEZNAM));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));
-    EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_KONTROLNI));  // the other filings come later
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_KONTROLNI));
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_KONTROLA_PODANI));
     EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_SOUHRNNE));
     // Without the tax administration's code lists the return asks to download them first;
     // declined, no wizard opens.
@@ -191,6 +192,10 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     command(evidaFrame::ID_DPH_PRIZNANI);
     EXPECT_EQ(m_prompts.transcript(), u8("Je třeba stáhnout číselníky potřebné pro přiznání.\nStáhnout teď?\n"));
     EXPECT_EQ(m_dialogs.titles.size(), dialogy);
+    m_prompts.clear();
+    command(evidaFrame::ID_DPH_KONTROLNI);
+    EXPECT_EQ(m_prompts.transcript(), u8("Je třeba stáhnout číselníky potřebné pro hlášení.\nStáhnout teď?\n"));
+    EXPECT_EQ(m_dialogs.titles.size(), dialogy);
     m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
     command(evidaFrame::ID_CLENENI_DPH);
     ASSERT_FALSE(m_dialogs.titles.empty());
@@ -198,6 +203,9 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
     command(evidaFrame::ID_DPH_SEZNAM);
     EXPECT_EQ(m_dialogs.titles.back(), u8("Seznam dokladů DPH"));
+    m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
+    command(evidaFrame::ID_KONTROLA_PODANI);
+    EXPECT_EQ(m_dialogs.titles.back(), u8("Kontrola podání"));
     EXPECT_FALSE(m_frame->jizdyShown());
     m_prompts.clear();
     command(evidaFrame::ID_ULOZENA_PRIZNANI);

@@ -92,8 +92,8 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
         {"&Systém",
          "Firma{Upravit firmu|Smazat firmu|Přidat firmu|Změnit firmu}|Období{Přidat období|Změnit období|Smazat "
          "období}|Adresář|Daně{Přehled příjmů a výdajů|Přehled majetku a závázků|Daň z příjmů|DPH{Přiznání k "
-         "DPH|Kontrolní hlášení DPH|Souhrnné hlášení DPH|Seznam dokladů k DPH}|Uložená přiznání}|Zálohovat "
-         "data|Obnovit data ze zálohy|Konec\tCtrl-Q"},
+         "DPH|Kontrolní hlášení DPH|Souhrnné hlášení DPH|Kontrola podání|Seznam dokladů k DPH}|Uložená "
+         "přiznání}|Zálohovat data|Obnovit data ze zálohy|Konec\tCtrl-Q"},
         {"Úče&tnictví", "Peněžní deník|Pokladna|Banka|Předkontace|Stav pokladen a bankovních účtů"},
         {"&Fakturace", "Faktury vydané|Faktury přijaté|Pohledávky|Závazky|Úhrady|Seznam odeslaných faktur|Členění DPH"},
         {"Ma&jetek", "Kniha majetku"},
@@ -118,7 +118,8 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
              evidaFrame::ID_PREHLED_PRIJMU, evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
              evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY, evidaFrame::ID_EDITOR_SABLON,
              evidaFrame::ID_DPH_PRIZNANI, evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_DPH_SOUHRNNE,
-             evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_ULOZENA_PRIZNANI})
+             evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_ULOZENA_PRIZNANI,
+             evidaFrame::ID_KONTROLA_PODANI})
         EXPECT_FALSE(bar->IsEnabled(id)) << id;
     for (int id : std::initializer_list<int>{evidaFrame::ID_FIRMA_UPRAVIT, evidaFrame::ID_FIRMA_SMAZAT,
                                              evidaFrame::ID_FIRMA_PRIDAT, evidaFrame::ID_OBDOBI_PRIDAT,

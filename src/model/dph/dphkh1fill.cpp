@@ -171,7 +171,16 @@ wxString kod(Sekce s) { return info(s).kod; }
 bool isRadkova(Sekce s) { return info(s).radkova; }
 
 lxDphDokladArray doklady(DbModel& model, Sekce s, const wxDateTime& od, const wxDateTime& doDne) {
-    lxDphDokladArray all = model.dokladyForDph(model.getDphDruhIdByKh(info(s).kh), od, doDne, false);
+    return doklady(model, s, od, doDne, model.dphDruhyForObdobi(od, doDne));
+}
+
+lxDphDokladArray doklady(DbModel& model, Sekce s, const wxDateTime& od, const wxDateTime& doDne,
+                         const std::map<int, bool>& vObdobi) {
+    std::vector<int> ids;
+    for (int id : model.getDphDruhIdByKh(info(s).kh)) {
+        if (vObdobi.count(id)) ids.push_back(id);
+    }
+    lxDphDokladArray all = model.dokladyForDph(ids, od, doDne, false);
     DbModel::sortDphDoklad(all);
     lxDphDokladArray vybrane;
     for (DphDoklad& d : all) {
@@ -219,13 +228,18 @@ void fillHlavicka(DbModel& model, Dphkh1& p, const Kh1Zadani& z) {
 }
 
 void fillSekce(DbModel& model, Dphkh1& p, Sekce s, const wxDateTime& od, const wxDateTime& doDne) {
+    fillSekce(model, p, s, od, doDne, model.dphDruhyForObdobi(od, doDne));
+}
+
+void fillSekce(DbModel& model, Dphkh1& p, Sekce s, const wxDateTime& od, const wxDateTime& doDne,
+               const std::map<int, bool>& vObdobi) {
     const wxString veta = vetaName(s);
     if (isRadkova(s)) {
         while (p.pocetVet(veta) > 0) p.removeVeta(veta, p.pocetVet(veta) - 1);
     } else {
         for (const wxString& a : p.atributy(veta)) p.setAtributValue(veta, a, wxString());
     }
-    const lxDphDokladArray vybrane = doklady(model, s, od, doDne);
+    const lxDphDokladArray vybrane = doklady(model, s, od, doDne, vObdobi);
     if (isRadkova(s))
         fillRadkovou(model, p, s, vybrane, od);
     else
@@ -237,7 +251,8 @@ void fillData(DbModel& model, Dphkh1& p, const Kh1Zadani& z) {
     fillHlavicka(model, p, z);
     // A quick answer to a summons carries no sections at all.
     if (!z.vyzvaOdp.empty()) return;
-    for (Sekce s : sekce()) fillSekce(model, p, s, z.obdobi.od, z.obdobi.doDne);
+    const std::map<int, bool> vObdobi = model.dphDruhyForObdobi(z.obdobi.od, z.obdobi.doDne);
+    for (Sekce s : sekce()) fillSekce(model, p, s, z.obdobi.od, z.obdobi.doDne, vObdobi);
     p.fillVetaC();
 }
 

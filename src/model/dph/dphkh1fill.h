@@ -3,6 +3,8 @@
 // a document, the summaries, section C, and the saved-filings row.
 #pragma once
 
+#include <map>
+
 #include "dphdoklad.h"
 #include "dphkh1.h"
 #include "dphobdobi.h"
@@ -33,12 +35,18 @@ constexpr double LIMIT = 10000.0;
 
 // The documents of the period that the section takes, in the order of the rows.
 lxDphDokladArray doklady(DbModel& model, Sekce s, const wxDateTime& od, const wxDateTime& doDne);
+// The same when the classifications with documents in the period are known
+// (DbModel::dphDruhyForObdobi): only those are read.
+lxDphDokladArray doklady(DbModel& model, Sekce s, const wxDateTime& od, const wxDateTime& doDne,
+                         const std::map<int, bool>& vObdobi);
 
 // VetaD from the answers, VetaP from the taxpayer.
 void fillHlavicka(DbModel& model, Dphkh1& p, const Kh1Zadani& zadani);
 // Empties one section and fills it from the documents (the wizard's "Znovu načíst data z
 // evidence"); section C is not touched.
 void fillSekce(DbModel& model, Dphkh1& p, Sekce s, const wxDateTime& od, const wxDateTime& doDne);
+void fillSekce(DbModel& model, Dphkh1& p, Sekce s, const wxDateTime& od, const wxDateTime& doDne,
+               const std::map<int, bool>& vObdobi);
 // The whole statement: header, every section and section C. A quick answer to a summons
 // carries the header and the taxpayer only.
 void fillData(DbModel& model, Dphkh1& p, const Kh1Zadani& zadani);

@@ -132,13 +132,13 @@ void nezarazeny(kontrola::Vysledek& v, const DphDoklad& d, Sekce s, const wxStri
 
 // The documents of the statement's sections that the tax office cannot match: a missing or
 // malformed DIČ, a received document without the supplier's number.
-void najdiNezarazene(DbModel& model, kontrola::Vysledek& v) {
+void najdiNezarazene(DbModel& model, kontrola::Vysledek& v, const std::map<int, bool>& vObdobi) {
     const wxDateTime& od = v.obdobi.od;
     const wxDateTime& doDne = v.obdobi.doDne;
     for (Sekce s : {Sekce::A1, Sekce::A2, Sekce::A4, Sekce::A5, Sekce::B1, Sekce::B2, Sekce::B3}) {
         const bool prijate = s == Sekce::A2 || s == Sekce::B1 || s == Sekce::B2 || s == Sekce::B3;
         const wxString strana = prijate ? u8("dodavatele") : u8("odběratele");
-        for (const DphDoklad& d : kh1::doklady(model, s, od, doDne)) {
+        for (const DphDoklad& d : kh1::doklady(model, s, od, doDne, vObdobi)) {
             const RozdelenaDic dic = dic::rozdel(d.dic, "CZ");
             if (s == Sekce::A5 || s == Sekce::B3) {
                 // The summary sections need no DIČ, but a document over the limit lands here
@@ -176,6 +176,7 @@ Vysledek zkontrolovat(DbModel& model, const DphObdobi& obdobi) {
     Kh1Zadani zadani;
     zadani.obdobi = obdobi;
     kh1::fillData(model, kh, zadani);
+    const std::map<int, bool> vObdobi = model.dphDruhyForObdobi(obdobi.od, obdobi.doDne);
 
     for (const Par& par : pary()) {
         Rozdil r;
@@ -189,10 +190,14 @@ Vysledek zkontrolovat(DbModel& model, const DphObdobi& obdobi) {
         std::map<Klic, Doklad> doklady;
         wxArrayString radky;
         for (const char* t : par.radky) radky.Add(t);
-        for (const DphDoklad& d : model.dokladyForDph(model.getDphDruhIdByRadek(radky), obdobi.od, obdobi.doDne, false))
-            pricti(doklady, d, par, true);
+        std::vector<int> ids;
+        for (int id : model.getDphDruhIdByRadek(radky)) {
+            if (vObdobi.count(id)) ids.push_back(id);
+        }
+        for (const DphDoklad& d : model.dokladyForDph(ids, obdobi.od, obdobi.doDne, false)) pricti(doklady, d, par, true);
         for (Sekce s : par.sekce) {
-            for (const DphDoklad& d : kh1::doklady(model, s, obdobi.od, obdobi.doDne)) pricti(doklady, d, par, false);
+            for (const DphDoklad& d : kh1::doklady(model, s, obdobi.od, obdobi.doDne, vObdobi))
+                pricti(doklady, d, par, false);
         }
         // The documents on one side only, or counted more than once by the statement; when
         // there are none the difference is in the amounts, and every document is shown.
@@ -204,7 +209,7 @@ Vysledek zkontrolovat(DbModel& model, const DphObdobi& obdobi) {
         }
         v.rozdily.push_back(std::move(r));
     }
-    najdiNezarazene(model, v);
+    najdiNezarazene(model, v, vObdobi);
     return v;
 }
 
