@@ -17,8 +17,6 @@ class PodaniUvodPage : public wxWizardPageSimple {
 
 // The last page: the text, a link to the tax administration's filing portal, and the two
 // buttons. `podani` gives the computed filing when a button is pressed; `tisk` previews it.
-// `lzePodat`, when given, is asked first by both buttons: it shows why the filing may not go
-// out and says false (a filing with nothing to report is neither printed nor exported).
 class PodaniKonecPage : public wxWizardPageSimple {
  public:
     struct Texty {
@@ -29,7 +27,7 @@ class PodaniKonecPage : public wxWizardPageSimple {
         wxString soubor;      // the offered file name
     };
     PodaniKonecPage(wxWizard* parent, const Texty& texty, std::function<const Podani&()> podani,
-                    std::function<void(const Podani&)> tisk, std::function<bool()> lzePodat = {});
+                    std::function<void(const Podani&)> tisk);
 
     // The export of the button: asks for the file, checks the filing against the official
     // schema and writes it; the schema's complaints are shown and no file is written.
@@ -45,7 +43,6 @@ class PodaniKonecPage : public wxWizardPageSimple {
     std::function<bool()> m_povoleni;
     std::function<const Podani&()> m_podani;
     std::function<void(const Podani&)> m_tisk;
-    std::function<bool()> m_lzePodat;
 };
 
 // The address of the tax administration's electronic filing portal.
