@@ -217,7 +217,9 @@ TEST_F(DphshWizardTest, AMonthWithoutSuppliesIsNeitherPrintedNorExported) {
     }
 }
 
-struct Odmitnuti {
+// The name stays inside this file: other tests of the executable have their own refusal cases.
+namespace {
+struct ShOdmitnuti {
     const char* name;
     const char* stat;
     const char* cislo;
@@ -227,11 +229,12 @@ struct Odmitnuti {
     const char* zprava;
     const char* pole;  // where the focus is left
 };
+}  // namespace
 
-class DphshRadekOdmitnuti : public DphshWizardTest, public ::testing::WithParamInterface<Odmitnuti> {};
+class DphshRadekOdmitnuti : public DphshWizardTest, public ::testing::WithParamInterface<ShOdmitnuti> {};
 
 TEST_P(DphshRadekOdmitnuti, DialogStaysOpenAndTheListIsUnchanged) {
-    const Odmitnuti c = GetParam();
+    const ShOdmitnuti c = GetParam();
     DphshWizard w(m_frame, m_model.get());
     brezen(w);
     next(w);
@@ -257,17 +260,18 @@ TEST_P(DphshRadekOdmitnuti, DialogStaysOpenAndTheListIsUnchanged) {
 INSTANTIATE_TEST_SUITE_P(
     Radek, DphshRadekOdmitnuti,
     ::testing::Values(
-        Odmitnuti{"no_country", " ", "987654321", 0, "1", "100", "Kód země nemůže být prázdný", "stat"},
-        Odmitnuti{"no_vat_id", "AT", " - ", 0, "1", "100", "DIČ pořizovatele zboží nemůže být prázdné", "cislo"},
-        Odmitnuti{"zero_count", "AT", "U12345678", 0, "0", "100", "Počet plnění nemůže být nulový", "pocet"},
-        Odmitnuti{"empty_count", "AT", "U12345678", 0, "", "100", "Počet plnění nemůže být nulový", "pocet"},
-        Odmitnuti{"fractional_count", "AT", "U12345678", 0, "1,5", "100", "Počet plnění musí být celé kladné číslo",
-                  "pocet"},
-        Odmitnuti{"zero_value", "AT", "U12345678", 0, "2", "0,00", "Celková hodnota plnění nemůže být nulová",
-                  "hodnota"},
-        Odmitnuti{"empty_value", "AT", "U12345678", 3, "2", "", "Celková hodnota plnění nemůže být nulová", "hodnota"},
-        Odmitnuti{"same_customer_and_code", "de", "123 456 789", 0, "1", "5",
-                  "Řádek pro DE123456789 s kódem plnění 0 už v hlášení je", "cislo"}),
+        ShOdmitnuti{"no_country", " ", "987654321", 0, "1", "100", "Kód země nemůže být prázdný", "stat"},
+        ShOdmitnuti{"no_vat_id", "AT", " - ", 0, "1", "100", "DIČ pořizovatele zboží nemůže být prázdné", "cislo"},
+        ShOdmitnuti{"zero_count", "AT", "U12345678", 0, "0", "100", "Počet plnění nemůže být nulový", "pocet"},
+        ShOdmitnuti{"empty_count", "AT", "U12345678", 0, "", "100", "Počet plnění nemůže být nulový", "pocet"},
+        ShOdmitnuti{"fractional_count", "AT", "U12345678", 0, "1,5", "100", "Počet plnění musí být celé kladné číslo",
+                    "pocet"},
+        ShOdmitnuti{"zero_value", "AT", "U12345678", 0, "2", "0,00", "Celková hodnota plnění nemůže být nulová",
+                    "hodnota"},
+        ShOdmitnuti{"empty_value", "AT", "U12345678", 3, "2", "", "Celková hodnota plnění nemůže být nulová",
+                    "hodnota"},
+        ShOdmitnuti{"same_customer_and_code", "de", "123 456 789", 0, "1", "5",
+                    "Řádek pro DE123456789 s kódem plnění 0 už v hlášení je", "cislo"}),
     [](const auto& i) { return std::string(i.param.name); });
 
 TEST_F(DphshWizardTest, RowsAddedEditedDeletedAndComputedAgain) {
