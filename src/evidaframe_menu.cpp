@@ -7,6 +7,7 @@
 #include "DphDruhyDialog.h"
 #include "Dphdp3Wizard.h"
 #include "Dphkh1Wizard.h"
+#include "DphshWizard.h"
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
 #include "PredkontacesDialog.h"
@@ -77,10 +78,10 @@ const int LATER_ITEMS[] = {
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
-// The VAT commands are for VAT payers only. The EC sales list is not part of the program yet:
-// its item stays disabled even for a VAT payer.
-const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_DPH_SEZNAM,
-                               evidaFrame::ID_DPH_PRIZNANI,     evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_KONTROLA_PODANI};
+// The VAT commands, for VAT payers only.
+const int VAT_ITEMS_READY[] = {evidaFrame::ID_ULOZENA_PRIZNANI, evidaFrame::ID_CLENENI_DPH,    evidaFrame::ID_DPH_SEZNAM,
+                               evidaFrame::ID_DPH_PRIZNANI,     evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_DPH_SOUHRNNE,
+                               evidaFrame::ID_KONTROLA_PODANI};
 
 bool isVatItemReady(int id) {
     for (int ready : VAT_ITEMS_READY) {
@@ -234,6 +235,14 @@ void evidaFrame::createMenuBar() {
             wizard.run();
         },
         ID_DPH_KONTROLNI);
+    Bind(
+        wxEVT_MENU,
+        [this](wxCommandEvent&) {
+            if (!m_model || !m_model->isOpen() || !m_model->isFirmaPlatce() || !ensureCiselniky(this, false)) return;
+            DphshWizard wizard(this, m_model.get());
+            wizard.run();
+        },
+        ID_DPH_SOUHRNNE);
     Bind(wxEVT_MENU, &evidaFrame::onUlozenaPriznani, this, ID_ULOZENA_PRIZNANI);
     Bind(wxEVT_MENU, &evidaFrame::onZalohovat, this, ID_ZALOHOVAT);
     Bind(wxEVT_MENU, &evidaFrame::onObnovit, this, ID_OBNOVIT);

@@ -184,7 +184,7 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_PRIZNANI));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_KONTROLNI));
     EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_KONTROLA_PODANI));
-    EXPECT_FALSE(enabled(m_frame, evidaFrame::ID_DPH_SOUHRNNE));
+    EXPECT_TRUE(enabled(m_frame, evidaFrame::ID_DPH_SOUHRNNE));
     // Without the tax administration's code lists the return asks to download them first;
     // declined, no wizard opens.
     const size_t dialogy = m_dialogs.titles.size();
@@ -194,7 +194,9 @@ TEST_F(ShellCompanies, EditingTheCompanyUpdatesSettingsVatCommandsAndVehicleLog)
     EXPECT_EQ(m_dialogs.titles.size(), dialogy);
     m_prompts.clear();
     command(evidaFrame::ID_DPH_KONTROLNI);
-    EXPECT_EQ(m_prompts.transcript(), u8("Je třeba stáhnout číselníky potřebné pro hlášení.\nStáhnout teď?\n"));
+    command(evidaFrame::ID_DPH_SOUHRNNE);
+    EXPECT_EQ(m_prompts.transcript(), u8("Je třeba stáhnout číselníky potřebné pro hlášení.\nStáhnout teď?\n"
+                                         "Je třeba stáhnout číselníky potřebné pro hlášení.\nStáhnout teď?\n"));
     EXPECT_EQ(m_dialogs.titles.size(), dialogy);
     m_dialogs.then([](wxDialog* dialog) { dialog->EndModal(wxID_CANCEL); });
     command(evidaFrame::ID_CLENENI_DPH);
