@@ -11,6 +11,7 @@
 #include <cstdlib>
 
 #include "book/lxbook.h"
+#include "controls/lxdatectrl.h"
 #include "book/lxlistctrl.h"
 #include "companysetup.h"
 #include "lxsettings.h"
@@ -139,6 +140,23 @@ void wizardNext(wxDialog& wizard) {
     wxCommandEvent event(wxEVT_BUTTON, wxID_FORWARD);
     event.SetEventObject(button);
     button->ProcessWindowEvent(event);
+}
+
+void BookTest::nastavPlatceDph() {
+    Firma firma = m_model->firma();
+    firma.setPlatce(true);
+    ASSERT_TRUE(m_model->setFirma(firma));
+    Priznani p = m_model->priznani();
+    p.setJmeno(wxString::FromUTF8("Jan"));
+    p.setPrijmeni(wxString::FromUTF8("Novák"));
+    p.setDic("CZ7001011234");
+    p.setC_ufo(451);
+    ASSERT_TRUE(m_model->setPriznani(p));
+}
+
+void typeDate(wxWindow* parent, const char* name, const char* text) {
+    typeText(parent, (std::string(name) + "Text").c_str(), wxString::FromUTF8(text));
+    if (auto* date = field<lxDateCtrl>(parent, name)) date->commitText();
 }
 
 Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person) {

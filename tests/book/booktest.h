@@ -49,6 +49,8 @@ void pressButton(wxWindow* parent, const char* name);
 void selectRadio(wxWindow* parent, const char* name);
 // Presses a wizard's "Další" (or "Dokončit") as its own button does.
 void wizardNext(wxDialog& wizard);
+// Types a date into a date field as a person does and leaves the field.
+void typeDate(wxWindow* parent, const char* name, const char* text);
 // What happened when OK was pressed: whether the dialog closed, and where the focus was
 // left when it stayed open.
 struct Outcome {
@@ -74,6 +76,9 @@ class BookTest : public ::testing::Test {
     int faktura(bool vydana, double celkem, const char* splatnost, int kontaktId = 0);
     // The texts of one column of a list, top to bottom.
     static wxArrayString column(const lxListCtrl* list, int column);
+    // Makes the company a VAT payer with a natural person's taxpayer record and a tax
+    // office: what the VAT filings' wizards need.
+    void nastavPlatceDph();
 
     wxString m_home;
     wxFrame* m_frame = nullptr;  // receives the model's changes

@@ -23,52 +23,13 @@ using ::testing::HasSubstr;
 
 namespace {
 
-void select(wxWindow* parent, const char* name) {
-    auto* radio = field<wxRadioButton>(parent, name);
-    ASSERT_TRUE(radio) << name;
-    radio->SetValue(true);
-    wxCommandEvent event(wxEVT_RADIOBUTTON, radio->GetId());
-    event.SetEventObject(radio);
-    radio->ProcessWindowEvent(event);
-}
-
-void typeDate(wxWindow* parent, const char* name, const char* text) {
-    typeText(parent, (std::string(name) + "Text").c_str(), wxString::FromUTF8(text));
-    if (auto* date = field<lxDateCtrl>(parent, name)) date->commitText();
-}
-
-// Presses "Další" (or "Dokončit") as the wizard's own button does.
-void next(wxWizard& wizard) {
-    wxWindow* button = wizard.FindWindow(wxID_FORWARD);
-    ASSERT_TRUE(button);
-    wxCommandEvent event(wxEVT_BUTTON, wxID_FORWARD);
-    event.SetEventObject(button);
-    button->ProcessWindowEvent(event);
-}
-
-void press(wxWindow* parent, const char* name) {
-    auto* button = field<wxButton>(parent, name);
-    ASSERT_TRUE(button) << name;
-    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
-    event.SetEventObject(button);
-    button->ProcessWindowEvent(event);
-}
-
 }  // namespace
 
 class Dphdp3WizardTest : public BookTest {
  protected:
     void SetUp() override {
         BookTest::SetUp();
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
-        Priznani p = m_model->priznani();
-        p.setJmeno(u8("Jan"));
-        p.setPrijmeni(u8("Novák"));
-        p.setDic("CZ7001011234");
-        p.setC_ufo(451);
-        ASSERT_TRUE(m_model->setPriznani(p));
+        nastavPlatceDph();
         m_model->addKontaktSAdresou(Kontakt(-1, u8("Beta s.r.o."), "", "27082440", "CZ27082440", "", true, -1),
                                     Adresa(-1, "", "", "", "", ""));
         dphDoklad(*m_model, DruhDokladu::FAKTURA_VYDANA, "2024-03-10", "2024-03-10", "R1,2", {{21, 1210}});
@@ -79,14 +40,14 @@ class Dphdp3WizardTest : public BookTest {
     void obdobiBrezen(Dphdp3Wizard& w, const char* koeficient) {
         w.ShowPage(w.firstPage());
         w.Show();
-        next(w);
+        wizardNext(w);
         ASSERT_EQ(w.GetCurrentPage(), w.page2());
-        select(w.page2(), "volbaObdobi");
+        selectRadio(w.page2(), "volbaObdobi");
         typeDate(w.page2(), "od", "1.3.2024");
         typeDate(w.page2(), "do", "31. 3. 2024");
         typeDate(w.page2(), "datumVyhotoveni", "20.4.2024");
         typeText(w.page2(), "koefNov", u8(koeficient));
-        next(w);
+        wizardNext(w);
     }
 };
 
@@ -97,19 +58,19 @@ TEST_F(Dphdp3WizardTest, PagesComputeExportAndSave) {
     EXPECT_THAT(m_prompts.transcript().utf8_string(), HasSubstr("ř.52 - Koeficient (%)"));
     typeText(w.page2(), "koefNov", u8("120"));
     m_prompts.clear();
-    next(w);
+    wizardNext(w);
     EXPECT_EQ(m_prompts.transcript(), u8("ř.52 - Koeficient (%): koeficient musí být od 0 do 100 %\n"));
     typeText(w.page2(), "koefNov", u8("60,5"));
-    next(w);
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page3());
 
     m_prompts.clear();
-    select(w.page3(), "formaD");
-    next(w);  // no saved return to supplement
+    selectRadio(w.page3(), "formaD");
+    wizardNext(w);  // no saved return to supplement
     EXPECT_EQ(w.GetCurrentPage(), w.page3());
     EXPECT_THAT(m_prompts.transcript().utf8_string(), HasSubstr("Vyberte přiznání"));
-    select(w.page3(), "formaB");
-    next(w);
+    selectRadio(w.page3(), "formaB");
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page4());
     const Dphdp3& p = w.dphdp3();
     EXPECT_EQ(p.atributValue("Veta1", "obrat23"), "1000");
@@ -120,7 +81,7 @@ TEST_F(Dphdp3WizardTest, PagesComputeExportAndSave) {
 
     const wxString path = m_home + "/priznani";
     m_prompts.answerPath(path);
-    press(w.page4(), "export");
+    pressButton(w.page4(), "export");
     std::string xml;
     {
         wxFFile file(path + ".xml", "rb");
@@ -141,7 +102,7 @@ TEST_F(Dphdp3WizardTest, SupplementaryReturnOnTheSavedOneAndInvalidExportWritesN
     {
         Dphdp3Wizard w(m_frame, m_model.get());
         obdobiBrezen(w, "");
-        next(w);
+        wizardNext(w);
         m_prompts.answerQuestion(true);
         w.OnFinished();
     }
@@ -149,13 +110,13 @@ TEST_F(Dphdp3WizardTest, SupplementaryReturnOnTheSavedOneAndInvalidExportWritesN
     Dphdp3Wizard w(m_frame, m_model.get());
     obdobiBrezen(w, "");
     ASSERT_EQ(w.GetCurrentPage(), w.page3());
-    select(w.page3(), "formaD");
+    selectRadio(w.page3(), "formaD");
     auto* k = field<wxChoice>(w.page3(), "dodatecneK");
     ASSERT_EQ(k->GetCount(), 1u);
     EXPECT_EQ(k->GetString(0), u8("Řádné přiznání 01.03.2024 - 31.03.2024"));
     typeDate(w.page3(), "datumZjisteni", "2.5.2024");
     typeText(w.page3(), "duvod", u8("Opomenutá faktura"));
-    next(w);
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page4());
     EXPECT_EQ(w.dphdp3().atributValue("Veta1", "obrat23"), "300");
     EXPECT_EQ(w.dphdp3().atributValue("Veta6", "dano"), "63");
@@ -193,13 +154,13 @@ TEST_F(Dphdp3WizardRealInput, PreviewFromTheModalWizardTakesClicks) {
     };
     bool closed = false;
     w.CallAfter([&] {
-        next(w);
+        wizardNext(w);
         wait([] { return false; });
         screenshot(w, "dphdp3wizard-page2");
-        next(w);
+        wizardNext(w);
         wait([] { return false; });
         screenshot(w, "dphdp3wizard-page3");
-        next(w);
+        wizardNext(w);
         wait([] { return false; });
         screenshot(w, "dphdp3wizard-page4");
         ASSERT_EQ(w.GetCurrentPage(), w.page4());

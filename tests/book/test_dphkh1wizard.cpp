@@ -25,11 +25,6 @@ namespace {
 
 const wxString NBSP = wxString::FromUTF8("\u00a0");
 
-void typeDate(wxWindow* parent, const char* name, const char* text) {
-    typeText(parent, (std::string(name) + "Text").c_str(), u8(text));
-    if (auto* date = field<lxDateCtrl>(parent, name)) date->commitText();
-}
-
 // Runs `person` on the row dialog a page opens modally, then presses OK; a dialog that stays
 // open is cancelled afterwards. Tells whether OK closed it.
 void answerRowDialog(const std::function<void(wxDialog*)>& person, bool* closed) {
@@ -51,15 +46,7 @@ class Dphkh1WizardTest : public BookTest {
  protected:
     void SetUp() override {
         BookTest::SetUp();
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
-        Priznani p = m_model->priznani();
-        p.setJmeno(u8("Jan"));
-        p.setPrijmeni(u8("Novák"));
-        p.setDic("CZ7001011234");
-        p.setC_ufo(451);
-        ASSERT_TRUE(m_model->setPriznani(p));
+        nastavPlatceDph();
         m_model->addKontaktSAdresou(Kontakt(-1, u8("Beta s.r.o."), "", "27082440", "CZ27082440", "", true, -1),
                                     Adresa(-1, "", "", "", "", ""));
         m_prompts.clear();

@@ -30,31 +30,6 @@ using ::testing::HasSubstr;
 
 namespace {
 
-void select(wxWindow* parent, const char* name) {
-    auto* radio = field<wxRadioButton>(parent, name);
-    ASSERT_TRUE(radio) << name;
-    radio->SetValue(true);
-    wxCommandEvent event(wxEVT_RADIOBUTTON, radio->GetId());
-    event.SetEventObject(radio);
-    radio->ProcessWindowEvent(event);
-}
-
-void next(wxWizard& wizard) {
-    wxWindow* button = wizard.FindWindow(wxID_FORWARD);
-    ASSERT_TRUE(button);
-    wxCommandEvent event(wxEVT_BUTTON, wxID_FORWARD);
-    event.SetEventObject(button);
-    button->ProcessWindowEvent(event);
-}
-
-void press(wxWindow* parent, const char* name) {
-    auto* button = field<wxButton>(parent, name);
-    ASSERT_TRUE(button) << name;
-    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
-    event.SetEventObject(button);
-    button->ProcessWindowEvent(event);
-}
-
 // The rows of page 3 as "country|VAT id|code|count|value|storno", top to bottom.
 std::vector<std::string> radky(ShPage3* page) {
     std::vector<std::string> out;
@@ -115,15 +90,7 @@ class DphshWizardTest : public BookTest {
  protected:
     void SetUp() override {
         BookTest::SetUp();
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
-        Priznani p = m_model->priznani();
-        p.setJmeno(u8("Jan"));
-        p.setPrijmeni(u8("Novák"));
-        p.setDic("CZ7001011234");
-        p.setC_ufo(451);
-        ASSERT_TRUE(m_model->setPriznani(p));
+        nastavPlatceDph();
         for (const auto& [nazev, dic] : {std::pair{"Gamma GmbH", "DE123456789"}, {"Delta SARL", "FR12345678901"}})
             m_model->addKontaktSAdresou(Kontakt(-1, u8(nazev), "", "", dic, "", true, -1),
                                         Adresa(-1, "", "", "", "", ""));
@@ -149,13 +116,13 @@ class DphshWizardTest : public BookTest {
         w.ShowPage(w.page1());
         choose(field<wxChoice>(w.page1(), "mesic"), 2);
         typeText(w.page1(), "datumVyplneniText", u8("10.4.2024"));
-        next(w);
+        wizardNext(w);
         ASSERT_EQ(w.GetCurrentPage(), w.page2());
     }
     void ulozitBrezen() {
         DphshWizard w(m_frame, m_model.get());
         brezen(w);
-        next(w);
+        wizardNext(w);
         m_prompts.answerQuestion(true);
         w.OnFinished();
     }
@@ -164,7 +131,7 @@ class DphshWizardTest : public BookTest {
 TEST_F(DphshWizardTest, RowsPerCustomerAndCodeInCrownsRoundedUpExportedAndSaved) {
     DphshWizard w(m_frame, m_model.get());
     brezen(w);
-    next(w);
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page3());
     EXPECT_THAT(radky(w.page3()), ElementsAre("DE|123456789|0|2|1 235,00|",    // 1 234,10 up to 1 235
                                               "FR|12345678901|0|1|2 513,00|",  // 100 EUR × 25,125
@@ -177,11 +144,11 @@ TEST_F(DphshWizardTest, RowsPerCustomerAndCodeInCrownsRoundedUpExportedAndSaved)
     EXPECT_EQ(p.atributValue("VetaR", "pln_hodnota", 1), "2513");
     EXPECT_EQ(p.atributValue("VetaR", "c_rad", 2), "3");
 
-    next(w);
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page4());
     const wxString path = m_home + "/hlaseni";
     m_prompts.answerPath(path);
-    press(w.page4(), "export");
+    pressButton(w.page4(), "export");
     EXPECT_EQ(lxutils::validateXml(bytes(path + ".xml"), lxutils::xsdDir() + "/dphshv_epo2.xsd"), "");
     EXPECT_EQ(bytes(path + ".xml"), p.createXml());
 
@@ -203,14 +170,14 @@ TEST_F(DphshWizardTest, AMonthWithoutSuppliesIsNeitherPrintedNorExported) {
     DphshWizard w(m_frame, m_model.get());
     w.ShowPage(w.page1());
     choose(field<wxChoice>(w.page1(), "mesic"), 1);  // February
-    next(w);
-    next(w);
+    wizardNext(w);
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page3());
     EXPECT_EQ(w.page3()->list()->GetItemCount(), 0);
-    next(w);
+    wizardNext(w);
     for (const char* button : {"tisk", "export"}) {
         m_prompts.clear();
-        press(w.page4(), button);
+        pressButton(w.page4(), button);
         ASSERT_EQ(m_prompts.shown().size(), 1u) << button;  // no file asked for
         EXPECT_EQ(m_prompts.shown()[0].text, u8("Nejsou žádné doklady pro vybrané období"));
         EXPECT_EQ(m_prompts.shown()[0].caption, u8("Informace"));
@@ -237,12 +204,12 @@ TEST_P(DphshRadekOdmitnuti, DialogStaysOpenAndTheListIsUnchanged) {
     const ShOdmitnuti c = GetParam();
     DphshWizard w(m_frame, m_model.get());
     brezen(w);
-    next(w);
+    wizardNext(w);
     const std::vector<std::string> pred = radky(w.page3());
     const std::string xml = w.dphshv().createXml();
     m_prompts.clear();
     wxString focus;  // the dialog is gone afterwards: its field is remembered by name
-    EXPECT_FALSE(radkovyDialog([&] { press(w.page3(), "pridat"); },
+    EXPECT_FALSE(radkovyDialog([&] { pressButton(w.page3(), "pridat"); },
                                [&](wxDialog* d) {
                                    EXPECT_FALSE(field<wxCheckBox>(d, "storno")->IsEnabled());  // not a follow-up
                                    vyplnit(d, c.stat, c.cislo, c.kod, c.pocet, c.hodnota);
@@ -277,10 +244,10 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(DphshWizardTest, RowsAddedEditedDeletedAndComputedAgain) {
     DphshWizard w(m_frame, m_model.get());
     brezen(w);
-    next(w);
+    wizardNext(w);
     ShPage3* page = w.page3();
 
-    EXPECT_TRUE(radkovyDialog([&] { press(page, "pridat"); },
+    EXPECT_TRUE(radkovyDialog([&] { pressButton(page, "pridat"); },
                               [](wxDialog* d) { vyplnit(d, "at", "U 1234-5678", 2, "3", "1 000,01"); }))
         << m_prompts.transcript().utf8_string();
     ASSERT_EQ(page->list()->GetItemCount(), 4);
@@ -289,25 +256,25 @@ TEST_F(DphshWizardTest, RowsAddedEditedDeletedAndComputedAgain) {
 
     // Changing the count keeps the unrounded value behind the row: 1 234,10 still goes up to 1 235.
     vybratRadek(page, 0);
-    EXPECT_TRUE(radkovyDialog([&] { press(page, "upravit"); }, [](wxDialog* d) { typeText(d, "pocet", "5"); }));
+    EXPECT_TRUE(radkovyDialog([&] { pressButton(page, "upravit"); }, [](wxDialog* d) { typeText(d, "pocet", "5"); }));
     EXPECT_EQ(radky(page)[0], "DE|123456789|0|5|1 235,00|");
     EXPECT_NEAR(w.dphshv().radek(0).hodnota, 1234.10, 1e-9);
 
     vybratRadek(page, 1);
     m_prompts.clear();
     m_prompts.answerQuestion(false);
-    press(page, "smazat");
+    pressButton(page, "smazat");
     ASSERT_EQ(m_prompts.shown().size(), 1u);
     EXPECT_EQ(m_prompts.shown()[0].text, u8("Smazat řádek pro FR12345678901?"));
     EXPECT_EQ(m_prompts.shown()[0].caption, u8("Dotaz"));
     EXPECT_EQ(page->list()->GetItemCount(), 4);
     m_prompts.answerQuestion(true);
-    press(page, "smazat");
+    pressButton(page, "smazat");
     EXPECT_THAT(radky(page),
                 ElementsAre("DE|123456789|0|5|1 235,00|", "DE|123456789|3|1|500,00|", "AT|U12345678|2|3|1 001,00|"));
     EXPECT_EQ(w.dphshv().atributValue("VetaR", "c_rad", 2), "3");  // numbered again
 
-    press(page, "znovuNacist");
+    pressButton(page, "znovuNacist");
     EXPECT_THAT(radky(page),
                 ElementsAre("DE|123456789|0|2|1 235,00|", "FR|12345678901|0|1|2 513,00|", "DE|123456789|3|1|500,00|"));
 }
@@ -317,10 +284,10 @@ TEST_F(DphshWizardTest, FollowUpListStartsFromTheSavedListAndMayCancelItsRows) {
         // Without a saved list there is nothing to follow.
         DphshWizard w(m_frame, m_model.get());
         brezen(w);
-        select(w.page2(), "formaN");
+        selectRadio(w.page2(), "formaN");
         EXPECT_FALSE(field<wxChoice>(w.page2(), "nasledneK")->IsEnabled());
         m_prompts.clear();
-        next(w);
+        wizardNext(w);
         EXPECT_EQ(w.GetCurrentPage(), w.page2());
         EXPECT_THAT(m_prompts.transcript().utf8_string(), HasSubstr("Vyberte souhrnné hlášení"));
     }
@@ -329,20 +296,20 @@ TEST_F(DphshWizardTest, FollowUpListStartsFromTheSavedListAndMayCancelItsRows) {
 
     DphshWizard w(m_frame, m_model.get());
     w.ShowPage(w.page1());
-    next(w);  // May stays chosen: the follow-up takes the period of the list it follows
-    select(w.page2(), "formaN");
+    wizardNext(w);  // May stays chosen: the follow-up takes the period of the list it follows
+    selectRadio(w.page2(), "formaN");
     auto* k = field<wxChoice>(w.page2(), "nasledneK");
     ASSERT_TRUE(k->IsEnabled());
     ASSERT_EQ(k->GetCount(), 1u);
     EXPECT_EQ(k->GetString(0), m_model->ulozene()[0]->popis());
-    next(w);
+    wizardNext(w);
     ASSERT_EQ(w.GetCurrentPage(), w.page3());
     EXPECT_EQ(w.dphshv().atributValue("VetaD", "shvies_forma"), Dphshv::NASLEDNE);
     EXPECT_EQ(w.dphshv().atributValue("VetaD", "mesic"), "3");
     EXPECT_EQ(w.page3()->list()->GetItemCount(), 3);
 
     // A cancelling row needs the country, VAT id and code only.
-    EXPECT_TRUE(radkovyDialog([&] { press(w.page3(), "pridat"); },
+    EXPECT_TRUE(radkovyDialog([&] { pressButton(w.page3(), "pridat"); },
                               [](wxDialog* d) {
                                   auto* storno = field<wxCheckBox>(d, "storno");
                                   ASSERT_TRUE(storno->IsEnabled());
@@ -383,17 +350,17 @@ TEST_F(DphshWizardRealInput, PagesAndThePreviewFromTheModalWizard) {
         choose(field<wxChoice>(w.page1(), "mesic"), 2);
         wait([] { return false; });
         screenshot(w, "dphshwizard-page1");
-        next(w);
+        wizardNext(w);
         wait([] { return false; });
         screenshot(w, "dphshwizard-page2");
-        next(w);
+        wizardNext(w);
         wait([] { return false; });
         screenshot(w, "dphshwizard-page3");
         {
             DphshVetarDialog d(&w, w.dphshv(), 0);
             screenshot(d, "dphshwizard-radek");
         }
-        next(w);
+        wizardNext(w);
         wait([] { return false; });
         screenshot(w, "dphshwizard-page4");
         ASSERT_EQ(w.GetCurrentPage(), w.page4());

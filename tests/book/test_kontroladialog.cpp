@@ -25,14 +25,6 @@ using ::testing::StartsWith;
 
 namespace {
 
-void press(wxWindow* parent, const char* name) {
-    auto* button = field<wxButton>(parent, name);
-    ASSERT_TRUE(button) << name;
-    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
-    event.SetEventObject(button);
-    button->ProcessWindowEvent(event);
-}
-
 // Picks the month (1-12) in the period panel and presses "Zkontrolovat".
 void zkontrolovat(KontrolaPodaniDialog& dialog, int mesic) {
     auto* radio = field<wxRadioButton>(&dialog, "volbaMesic");
@@ -42,7 +34,7 @@ void zkontrolovat(KontrolaPodaniDialog& dialog, int mesic) {
     event.SetEventObject(radio);
     radio->ProcessWindowEvent(event);
     choose(field<wxChoice>(&dialog, "mesic"), mesic - 1);
-    press(&dialog, "zkontrolovat");
+    pressButton(&dialog, "zkontrolovat");
 }
 
 // The list row showing the document `cislo`, -1 when none does.

@@ -23,29 +23,6 @@ using ::testing::StartsWith;
 
 namespace {
 
-void click(wxWindow* parent, const char* name) {
-    auto* button = field<wxButton>(parent, name);
-    if (!button) return;
-    wxCommandEvent event(wxEVT_BUTTON, button->GetId());
-    event.SetEventObject(button);
-    button->ProcessWindowEvent(event);
-}
-
-void select(wxWindow* parent, const char* name) {
-    auto* radio = field<wxRadioButton>(parent, name);
-    if (!radio) return;
-    radio->SetValue(true);
-    wxCommandEvent event(wxEVT_RADIOBUTTON, radio->GetId());
-    event.SetEventObject(radio);
-    radio->ProcessWindowEvent(event);
-}
-
-// Types a date and leaves the field, which is when the field takes what was typed.
-void typeDate(wxWindow* parent, const char* name, const char* text) {
-    typeText(parent, (std::string(name) + "Text").c_str(), wxString::FromUTF8(text));
-    if (auto* date = field<lxDateCtrl>(parent, name)) date->commitText();
-}
-
 std::string bytes(const wxString& path) {
     wxFFile file(path, "rb");
     if (!file.IsOpened()) return std::string();
@@ -83,12 +60,12 @@ TEST_F(SeznamDphDialogTest, PanelStartsOnTheWorkingMonthAndGivesTheChosenPeriod)
     SeznamDphDialog dialog(m_frame);
     ObdobiPanel* panel = dialog.obdobiPanel();
     EXPECT_EQ(panel->obdobi().text(), u8("Červen/2024"));
-    select(&dialog, "volbaCtvrtleti");
+    selectRadio(&dialog, "volbaCtvrtleti");
     choose(field<wxChoice>(&dialog, "ctvrtleti"), 1);
     EXPECT_EQ(panel->obdobi().od, iso("2024-04-01"));
     EXPECT_EQ(panel->obdobi().doDne, iso("2024-06-30"));
     EXPECT_FALSE(field<wxChoice>(&dialog, "mesic")->IsEnabled());
-    select(&dialog, "volbaObdobi");
+    selectRadio(&dialog, "volbaObdobi");
     EXPECT_TRUE(field<lxDateCtrl>(&dialog, "od")->IsEnabled());
     EXPECT_EQ(panel->obdobi().doDne, iso("2024-12-31"));  // the whole year until dates are typed
     typeDate(&dialog, "do", "31.3.2024");
@@ -103,11 +80,11 @@ TEST_F(SeznamDphDialogTest, ExportWritesTheChosenCsvWithDecimalPointsUnderTheCze
     const std::string before = std::setlocale(LC_ALL, nullptr);
     ASSERT_NE(std::setlocale(LC_ALL, "cs_CZ.UTF-8"), nullptr) << "scripts/setup.sh generates the Czech locale";
     SeznamDphDialog dialog(m_frame);
-    select(&dialog, "volbaObdobi");
+    selectRadio(&dialog, "volbaObdobi");
     typeDate(&dialog, "od", "1.2.2024");
     typeDate(&dialog, "do", "31.3.2024");
     m_prompts.answerPath(m_home + "/seznam");  // the extension is added
-    click(&dialog, "exportSeznamu");
+    pressButton(&dialog, "exportSeznamu");
     std::setlocale(LC_ALL, before.c_str());
 
     ASSERT_NE(shown("file"), nullptr);
@@ -125,12 +102,12 @@ TEST_F(SeznamDphDialogTest, ExportWritesTheChosenCsvWithDecimalPointsUnderTheCze
 
 TEST_F(SeznamDphDialogTest, EmptyPeriodOrUnreadableDateIsToldAndNothingIsMade) {
     SeznamDphDialog dialog(m_frame);
-    select(&dialog, "volbaCtvrtleti");
+    selectRadio(&dialog, "volbaCtvrtleti");
     choose(field<wxChoice>(&dialog, "ctvrtleti"), 2);
     m_prompts.answerPath(m_home + "/prazdny.csv");
     m_prompts.answerChoice(1);
-    click(&dialog, "exportSeznamu");
-    click(&dialog, "tiskSeznamu");
+    pressButton(&dialog, "exportSeznamu");
+    pressButton(&dialog, "tiskSeznamu");
     ASSERT_EQ(m_prompts.shown().size(), 2u);
     for (const auto& s : m_prompts.shown()) {
         EXPECT_EQ(s.kind, "info");
@@ -140,9 +117,9 @@ TEST_F(SeznamDphDialogTest, EmptyPeriodOrUnreadableDateIsToldAndNothingIsMade) {
     EXPECT_FALSE(wxFileExists(m_home + "/prazdny.csv"));
 
     m_prompts.clear();
-    select(&dialog, "volbaObdobi");
+    selectRadio(&dialog, "volbaObdobi");
     typeDate(&dialog, "od", "31.2.2024");
-    click(&dialog, "exportSeznamu");
+    pressButton(&dialog, "exportSeznamu");
     ASSERT_EQ(m_prompts.shown().size(), 1u);
     EXPECT_THAT(m_prompts.shown()[0].text.utf8_string(), HasSubstr("31.2.2024"));
     EXPECT_FALSE(wxFileExists(m_home + "/prazdny.csv"));
@@ -150,7 +127,7 @@ TEST_F(SeznamDphDialogTest, EmptyPeriodOrUnreadableDateIsToldAndNothingIsMade) {
 
 TEST_F(SeznamDphDialogTest, PrintOfAQuarterHasItsSectionsColumnsAndTotals) {
     SeznamDphDialog dialog(m_frame);
-    select(&dialog, "volbaCtvrtleti");
+    selectRadio(&dialog, "volbaCtvrtleti");
     choose(field<wxChoice>(&dialog, "ctvrtleti"), 0);
     const wxString pdf = m_home + "/seznam.pdf";
     m_prompts.answerChoice(1);
