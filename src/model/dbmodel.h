@@ -156,6 +156,13 @@ class DbModel {
     EVIDA_DECLARE_FAMILY(Odeslany, int)
     EVIDA_DECLARE_FAMILY(Ulozene, int)
     EVIDA_DECLARE_FAMILY(Kurz, int)
+    // Code lists the user edits: depreciation groups, fuels, fuel prices, vehicle kinds and
+    // the per-km allowances of a year.
+    EVIDA_DECLARE_FAMILY(Odpiskupina, int)
+    EVIDA_DECLARE_FAMILY(Phm, int)
+    EVIDA_DECLARE_FAMILY(DruhVozidla, int)
+    EVIDA_DECLARE_FAMILY(CenaPhm, int)
+    EVIDA_DECLARE_FAMILY(NahradaKm, int)
 #undef EVIDA_DECLARE_FAMILY
     // Read-only families: the fixed code lists of the program.
 #define EVIDA_DECLARE_LOOKUP(R, Key) \
@@ -165,12 +172,7 @@ class DbModel {
     EVIDA_DECLARE_LOOKUP(DphDruh, int)
     EVIDA_DECLARE_LOOKUP(DenikSloupec, int)
     EVIDA_DECLARE_LOOKUP(Mena, int)
-    EVIDA_DECLARE_LOOKUP(Odpiskupina, int)
     EVIDA_DECLARE_LOOKUP(FaTyp, int)
-    EVIDA_DECLARE_LOOKUP(Phm, int)
-    EVIDA_DECLARE_LOOKUP(DruhVozidla, int)
-    EVIDA_DECLARE_LOOKUP(CenaPhm, int)
-    EVIDA_DECLARE_LOOKUP(NahradaKm, int)
     EVIDA_DECLARE_LOOKUP(BankovniUstav, int)
     EVIDA_DECLARE_LOOKUP(Rada, const wxString&)
 #undef EVIDA_DECLARE_LOOKUP
@@ -406,6 +408,56 @@ class DbModel {
     Kurz getJednotnyKurz(const wxString& kod, int rok);
     // Stores the rates of one downloaded list under new ids, all of them or none.
     bool addKurzy(const std::vector<Kurz>& kurzy);
+
+    // --- fixed assets and depreciation (majetek/dbmodel_majetek.cpp) ---
+    // Fills the missing yearly depreciation of every depreciated asset up to the clock's year,
+    // all rows in one transaction. Returns false (and writes nothing) when a write fails.
+    bool calculateOdpisy();
+    double calculateRovnomernyOdpis(double cena, double sazba);
+    double calculateZrychlenyOdpis(double cena, double koeficient, int rok, int majetekid, int rokPorizeni);
+    // The asset's depreciation in the years up to and including rok.
+    double getOdpisy(int majetekid, int rok);
+    lxOdpisArray odpisyMajetku(int majetekid, int rok);
+    double getZustatkovaCenaMajetku(int majetekid);
+    double getMajetekStav(const wxDateTime& datum, bool hmotny);
+    static wxString majetekTypAsString(int typ);
+    static wxString majetekOdpisAsString(int odpis);
+
+    // --- stock (sklad/dbmodel_sklad.cpp) ---
+    Sklad getSklad(const wxString& nazev);
+    bool hasSklad(const wxString& nazev);
+    int firstSklad();  // -1 for none
+    wxString getSkladNazevById(int id);
+    lxZasobaArray zasobyBySkladId(int skladid);
+    int getZasobyCountBySkladId(int skladid);
+    lxPohybzasobArray pohybyzasobByZasobaId(int zasobaid);
+    Pohybzasob getPohybzasobByFaktura(int zasobaid, int fakturaid);
+    Pohybzasob getPohybzasobByInventura(int zasobaid, int inventuraid);
+    bool editPohybzasobDatum(int zasobaid, int fakturaid, const wxDateTime& datum);
+    // State of an item from its movements dated strictly before datum (all movements with
+    // an invalid date), by the item's valuation method.
+    bool getZasobaStav(int id, const wxDateTime& datum, double* pocet, double* celkem);
+    struct StavZasoby {
+        int zasobaid = -1;
+        double pocet = 0;
+        double celkem = 0;
+    };
+    StavZasoby stavZasobyToDate(int id, const wxDateTime& datum);
+    std::vector<StavZasoby> getZasobyStav(const wxDateTime& datum);
+    bool setZasobaStav(int id, double pocet, double celkem);
+    bool updateStavZasob(int id);
+    bool changeZasobaOcenovani(int id, int ocenovani);
+    double zasobaNakupniCena(int id);
+    lxInventuraArray inventury();
+    lxIvPolozkaArray ivpolozkyByInventuraId(int inventuraid);
+    bool inventuraIncludedZasoba(int inventuraid, int zasobaid);
+    wxDateTime getInventuraLastDateForZasoba(int zasobaid);
+    wxDateTime getInventuraLastDateForSklad(int skladid);
+
+    // --- vehicle log (jizdy/dbmodel_jizdy.cpp) ---
+    lxCenaPhmArray cenyPhm(int phmid);
+    lxNahradaKmArray nahradyKm(int rok);
+    lxJizdaArray jizdyVozidla(int vozidloid);
 
     // --- list rows for the book pages (dbmodel_views.cpp) ---
     lxDenikViewArray denikview();

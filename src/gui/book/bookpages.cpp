@@ -13,7 +13,10 @@
 #include "denikexport.h"
 #include "lxcsv.h"
 #include "lxbookpage.h"
+#include "jizdypage.h"
 #include "lxlistctrl.h"
+#include "majetekpage.h"
+#include "zasobypage.h"
 #include "prompts.h"
 
 namespace bookpages {
@@ -202,18 +205,6 @@ void addDokladCommands(lxBookPage* page) {
                             [page](int id) { tiskZavpoh(page, id); }, false);
 }
 
-void deleteJizda(lxBookPage* page, int id) {
-    DbModel* model = openModel();
-    if (!model) return;
-    const Jizda jizda = model->getJizda(id);
-    if (!jizda.isValid()) return;
-    if (!prompts().question(wxString::Format(u8("Opravdu smazat jízdu\n%s\n%s?"),
-                                             bookshapes::formatDatum(jizda.startcas(), true), jizda.cesta()),
-                            wxString(), page))
-        return;
-    model->deleteJizda(id);
-}
-
 }  // namespace
 
 const std::vector<int>& navigations() {
@@ -282,13 +273,15 @@ lxBookPage* create(wxWindow* parent, int nav) {
             break;
         case NAV_MAJETEK:
             created = page(parent, nav, bookshapes::majetek());
+            majetekpage::setup(created);
             break;
         case NAV_ZASOBY:
             created = page(parent, nav, bookshapes::zasoby());
+            zasobypage::setup(created);
             break;
         case NAV_JIZDY:
             created = page(parent, nav, bookshapes::jizdy());
-            created->setAction(BOOK_DELETE, [created](int id) { deleteJizda(created, id); });
+            jizdypage::setup(created);
             break;
         default:
             break;

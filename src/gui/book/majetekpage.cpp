@@ -1,0 +1,9 @@
+#include "majetekpage.h"
+
+#include "lxbookpage.h"
+
+namespace majetekpage {
+
+void setup(lxBookPage*) {}
+
+}  // namespace majetekpage

@@ -1,0 +1,9 @@
+#include "zasobypage.h"
+
+#include "lxbookpage.h"
+
+namespace zasobypage {
+
+void setup(lxBookPage*) {}
+
+}  // namespace zasobypage
