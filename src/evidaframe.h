@@ -57,6 +57,7 @@ class evidaFrame : public wxFrame {
         ID_ODESLANE_FAKTURY,
         ID_CLENENI_DPH,
         ID_MAJETEK,
+        ID_ODPISKUPINY,
         ID_ZASOBY,
         ID_INVENTURY,
         ID_DATUM,

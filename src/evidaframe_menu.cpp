@@ -10,6 +10,7 @@
 #include "DphshWizard.h"
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
+#include "OdpiskupinyDialog.h"
 #include "PredkontacesDialog.h"
 #include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
@@ -161,6 +162,7 @@ void evidaFrame::createMenuBar() {
 
     auto* majetek = new wxMenu();
     majetek->Append(ID_MAJETEK, u8("Kniha majetku"));
+    majetek->Append(ID_ODPISKUPINY, u8("Odpisové skupiny"));
     bar->Append(majetek, u8("Ma&jetek"));
 
     auto* sklad = new wxMenu();
@@ -195,6 +197,8 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onStavUctu, this, ID_STAV_UCTU);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PredkontacesDialog>(this, m_model.get()); }, ID_PREDKONTACE);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<FauhradyDialog>(this, m_model.get()); }, ID_UHRADY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<OdpiskupinyDialog>(this, m_model.get()); },
+         ID_ODPISKUPINY);
     // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,

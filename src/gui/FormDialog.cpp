@@ -52,9 +52,10 @@ int FormDialog::menaId() const {
     return sel >= 0 && sel < static_cast<int>(m_menaIds.size()) ? m_menaIds[sel] : 1;
 }
 
-void FormDialog::finish() {
+void FormDialog::finish(wxWindow* below) {
     auto* top = new wxBoxSizer(wxVERTICAL);
-    top->Add(m_grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
+    top->Add(m_grid, wxSizerFlags(below ? 0 : 1).Expand().Border(wxALL, 10));
+    if (below) top->Add(below, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxBOTTOM, 10));
     addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
 }

@@ -27,8 +27,9 @@ class FormDialog : public wxDialog {
     // The currency choice ("mena") with the currency `menaid` selected, added as a row.
     void addMena(int menaid);
     int menaId() const;
-    // Lays the form out; call once the fields are in.
-    void finish();
+    // Lays the form out; call once the fields are in. A window `below` (a list that belongs to
+    // the form) takes the room between the fields and the buttons.
+    void finish(wxWindow* below = nullptr);
     // Shows a refusal and puts the focus on the field to fix; true when there was one.
     bool refused(const wxString& chyba, wxWindow* field);
 

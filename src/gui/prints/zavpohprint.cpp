@@ -4,24 +4,16 @@
 #include <utility>
 
 #include "lxformat.h"
+#include "sazba.h"
 
 namespace {
 
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 wxString datum(const wxDateTime& d) { return d.IsValid() ? lxformat::formatDatum(d) : wxString(); }
 
-// Sheet geometry in mm: the printable width, the two party blocks side by side, the line
-// step of the item rows and the lowest top edge an element may have on a page.
+// Sheet geometry in mm: the printable width and the two party blocks side by side.
 constexpr int WIDTH = 190;
 constexpr int HALF = 92;
-constexpr int ROW_STEP = 6;
-constexpr int PAGE_BOTTOM = 262;
-
-struct Sloupec {
-    const char* nazev;
-    int sirka;
-    wxTextAttrAlignment zarovnani;
-};
 
 // The item columns; a non-payer's document has no VAT columns and a wider description.
 std::vector<Sloupec> sloupce(bool platce) {
@@ -31,59 +23,6 @@ std::vector<Sloupec> sloupce(bool platce) {
                 {"DPH %", 14, R}, {"DPH", 24, R}, {"Celkem", 30, R}};
     return {{"Popis", 100, L}, {"MJ", 12, L}, {"Počet", 20, R}, {"Cena za MJ", 28, R}, {"Celkem", 30, R}};
 }
-
-// Places the document's elements from the top down and starts a new page when the next
-// element would run past the bottom.
-class Sazba {
- public:
-    Sazba(Document& doc, const TextStyle& text) : m_doc(doc), m_text(text) {}
-
-    int y() const { return m_y; }
-    void skip(int mm) { m_y += mm; }
-    // Makes room for `mm` on this page, or moves to the next one.
-    void need(int mm) {
-        if (m_y + mm <= PAGE_BOTTOM) return;
-        ++m_page;
-        m_y = 0;
-    }
-    int page() const { return m_page; }
-
-    template <class E>
-    void add(E element) {
-        element.page = m_page;
-        m_doc.addElement(element);
-    }
-
-    // A framed row of cells starting `x` mm from the left.
-    void row(const std::vector<wxString>& hodnoty, const std::vector<Sloupec>& s, const TextStyle& style, int x = 0) {
-        need(ROW_STEP);
-        TableRowElement row;
-        row.pos = wxPoint(x, m_y);
-        row.textStyle = style;
-        row.border = true;
-        for (size_t i = 0; i < s.size(); ++i) {
-            row.addCellValue(i < hodnoty.size() ? hodnoty[i] : wxString());
-            row.addCellWidth(s[i].sirka);
-            row.addCellAlignment(s[i].zarovnani);
-        }
-        // Rows follow each other edge to edge; a wrapped description makes its row taller.
-        const double height = row.bounds().m_height;
-        add(row);
-        m_y += height > 0 ? static_cast<int>(std::ceil(height)) : ROW_STEP;
-    }
-
-    // A label and its value on one line, label at `x`, value 35 mm further.
-    void field(int x, int y, const wxString& label, const wxString& value) {
-        add(TextElement(label, wxPoint(x, y), 35, wxTEXT_ALIGNMENT_LEFT, m_text));
-        add(TextElement(value, wxPoint(x + 35, y), HALF - 35, wxTEXT_ALIGNMENT_LEFT, m_text));
-    }
-
- private:
-    Document& m_doc;
-    TextStyle m_text;
-    int m_y = 0;
-    int m_page = 1;
-};
 
 wxString stranaText(const ZavpohStrana& s) {
     wxString text = s.nazev;
@@ -111,7 +50,7 @@ ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d) : DocumentPrin
     const TextStyle text(printFont(10), black, white);
     const TextStyle polozky(printFont(9), black, white);
     const TextStyle hlavicka(printFont(9).Bold(), black, wxColour(230, 230, 230));
-    Sazba s(m_doklad, text);
+    Sazba s(m_doklad, text, HALF);
 
     s.add(TextElement(m_title, wxPoint(0, 0), WIDTH, wxTEXT_ALIGNMENT_CENTRE, titulek));
     // The company supplies on a receivable and is supplied on a liability.
@@ -142,7 +81,7 @@ ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d) : DocumentPrin
     s.row(nazvy, cols, hlavicka);
     for (const ZavpohPolozka& p : d.polozky) {
         const int top = s.y();
-        s.need(ROW_STEP);
+        s.need(Sazba::ROW_STEP);
         if (s.y() < top) s.row(nazvy, cols, hlavicka);  // the header again on a new page
         std::vector<wxString> v{p.popis, p.mj, lxformat::formatMnozstvi(p.pocet), lxformat::formatCastka(p.cenamj)};
         if (d.platce) {
@@ -155,7 +94,7 @@ ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d) : DocumentPrin
 
     if (d.platce && !d.souhrn.empty()) {
         s.skip(6);
-        s.need(ROW_STEP * (static_cast<int>(d.souhrn.size()) + 2));
+        s.need(Sazba::ROW_STEP * (static_cast<int>(d.souhrn.size()) + 2));
         s.add(TextElement(u8("Rekapitulace DPH"), wxPoint(WIDTH - 120, s.y()), 0, wxTEXT_ALIGNMENT_LEFT, tucne));
         s.skip(6);
         const std::vector<Sloupec> rekap{{"Sazba", 30, wxTEXT_ALIGNMENT_RIGHT},
