@@ -4,6 +4,7 @@
 #include <wx/choice.h>
 #include <wx/dateevt.h>
 #include <wx/listctrl.h>
+#include <wx/sizer.h>
 #include <wx/textctrl.h>
 
 #include <map>

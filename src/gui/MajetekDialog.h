@@ -4,7 +4,7 @@
 #pragma once
 
 #include "FormDialog.h"
-#include "majetekform.h"
+#include "majetek/majetekform.h"
 
 class lxAmountCtrl;
 class lxDateCtrl;
