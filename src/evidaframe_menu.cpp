@@ -12,6 +12,7 @@
 #include "FauhradyDialog.h"
 #include "OdpiskupinyDialog.h"
 #include "PredkontacesDialog.h"
+#include "PrijmyVydajeDialog.h"
 #include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
 #include "book/lxbook.h"
@@ -75,7 +76,7 @@ const PageItem PAGE_ITEMS[] = {
 // tax, the sent-invoice log, stock-takings, the template editor). Their items are in place
 // and stay disabled until then.
 const int LATER_ITEMS[] = {
-    evidaFrame::ID_PREHLED_PRIJMU,   evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
+    evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
     evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
 };
 
@@ -199,6 +200,8 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<FauhradyDialog>(this, m_model.get()); }, ID_UHRADY);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<OdpiskupinyDialog>(this, m_model.get()); },
          ID_ODPISKUPINY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PrijmyVydajeDialog>(this, m_model.get()); },
+         ID_PREHLED_PRIJMU);
     // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,

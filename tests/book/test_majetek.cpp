@@ -4,7 +4,9 @@
 #include <gmock/gmock.h>
 #include <wx/checkbox.h>
 #include <wx/choice.h>
+#include <wx/filefn.h>
 #include <wx/listctrl.h>
+#include <wx/utils.h>
 
 #include "MajetekDialog.h"
 #include "OdpiskupinaDialog.h"
@@ -134,6 +136,8 @@ TEST_F(AssetBook, CardPrintsTheWholePlanToTheEnd) {
     m_prompts.answerChoice(1);
     m_prompts.answerPath(pdf);
     majetekpage::tiskKarty(m_frame, id);
+    wxString shots;
+    if (wxGetEnv("EVIDA_SCREENSHOTS", &shots) && !shots.empty()) wxCopyFile(pdf, shots + "/karta.pdf");
     const std::string text = PrintTest::pdfText(pdf, 0).utf8_string();
     EXPECT_THAT(text, HasSubstr("Karta majetku MA0007"));
     EXPECT_THAT(text, HasSubstr(u8("Dodávka Ž").utf8_string()));
