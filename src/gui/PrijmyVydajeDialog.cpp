@@ -32,8 +32,11 @@ PrijmyVydajeTisk tiskPrehledu(DbModel& model, const PrijmyVydaje& p) {
     t.firma = firma.nazev();
     t.ic = firma.ic();
     const Adresa a = firma.adresaid() > 0 ? model.getAdresa(firma.adresaid()) : Adresa();
-    if (a.isValid())
-        t.adresa = (a.ulice() + " " + a.cp() + ", " + a.psc() + " " + a.misto()).Strip(wxString::both);
+    if (a.isValid()) {
+        const wxString ulice = (a.ulice() + " " + a.cp()).Strip(wxString::both);
+        const wxString misto = (a.psc() + " " + a.misto()).Strip(wxString::both);
+        t.adresa = ulice.empty() || misto.empty() ? ulice + misto : ulice + ", " + misto;
+    }
     for (const auto& r : p.prijmy) t.prijmy.push_back({r.popis, r.castka});
     t.pausal = p.pausal;
     if (p.pausal) {
