@@ -59,6 +59,7 @@ class evidaFrame : public wxFrame {
         ID_MAJETEK,
         ID_ZASOBY,
         ID_INVENTURY,
+        ID_SKLADY,
         ID_DATUM,
         ID_EDITOR_SABLON,
         ID_AKTUALIZACE

@@ -10,6 +10,8 @@
 #include "DphshWizard.h"
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
+#include "InventuryDialog.h"
+#include "SkladyDialog.h"
 #include "PredkontacesDialog.h"
 #include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
@@ -75,7 +77,7 @@ const PageItem PAGE_ITEMS[] = {
 // and stay disabled until then.
 const int LATER_ITEMS[] = {
     evidaFrame::ID_PREHLED_PRIJMU,   evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
-    evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
+    evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_EDITOR_SABLON,
 };
 
 // The VAT commands, for VAT payers only.
@@ -166,6 +168,7 @@ void evidaFrame::createMenuBar() {
     auto* sklad = new wxMenu();
     sklad->Append(ID_ZASOBY, u8("Kniha zásob"));
     sklad->Append(ID_INVENTURY, u8("Inventury"));
+    sklad->Append(ID_SKLADY, u8("Sklady"));
     bar->Append(sklad, u8("Sk&lad"));
 
     auto* upravy = new wxMenu();
@@ -195,6 +198,8 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onStavUctu, this, ID_STAV_UCTU);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PredkontacesDialog>(this, m_model.get()); }, ID_PREDKONTACE);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<FauhradyDialog>(this, m_model.get()); }, ID_UHRADY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<InventuryDialog>(this, m_model.get()); }, ID_INVENTURY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<SkladyDialog>(this, m_model.get()); }, ID_SKLADY);
     // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,

@@ -709,7 +709,7 @@ void DokladDialog::smazatPolozku() {
     if (!model || id <= 0) return;
     const wxString dotaz = wxString::Format(u8("Opravdu smazat položku:\n%s?"), model->getFaPolozka(id).popis());
     if (!prompts().question(dotaz, u8("Dotaz"), this)) return;
-    const wxString zprava = smazatPolozku(*model, readForm(), id);
+    const wxString zprava = ::smazatPolozku(*model, readForm(), id);
     if (zprava.empty())
         m_polozkyZmeneny = true;
     else
