@@ -3,7 +3,10 @@
 // invoice line that issues stock, and the stock prints read back from their PDFs.
 #include <gmock/gmock.h>
 #include <wx/choice.h>
+#include <wx/filefn.h>
 #include <wx/listctrl.h>
+#include <wx/prntbase.h>
+#include <wx/utils.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
@@ -223,5 +226,26 @@ TEST_F(StockDialogs, PrintsShowTheItemsTheirMovementsAndStockTakings) {
         ASSERT_EQ(c.print(), pdf) << c.file;
         const std::string text = PrintTest::pdfText(pdf, 0).utf8_string();
         for (const char* expected : c.texts) EXPECT_THAT(text, HasSubstr(expected)) << c.file;
+        wxString shots;
+        if (wxGetEnv("EVIDA_SCREENSHOTS", &shots) && !shots.empty()) wxCopyFile(pdf, shots + "/" + c.file);
     }
+    // "Náhled" opens the preview of the card with its page drawn.
+    m_prompts.answerChoice(0);
+    EXPECT_EQ(tiskKartyZasoby(m_frame, m_zasoba), wxString());
+    wxPreviewFrame* nahled = nullptr;
+    for (wxWindow* w : wxTopLevelWindows)
+        if (auto* f = dynamic_cast<wxPreviewFrame*>(w)) nahled = f;
+    ASSERT_NE(nahled, nullptr);
+    EXPECT_EQ(nahled->GetTitle(), u8("Karta zásoby ZB0001"));
+    wxString shots;
+    if (wxGetEnv("EVIDA_SCREENSHOTS", &shots) && !shots.empty()) {
+        nahled->Move(0, 0);
+        for (int i = 0; i < 20; ++i) {
+            wxYield();
+            wxMilliSleep(25);
+        }
+        wxExecute("import -window root " + shots + "/karta_nahled.png", wxEXEC_SYNC);
+    }
+    nahled->Destroy();
+    wxYield();
 }
