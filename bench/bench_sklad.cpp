@@ -58,7 +58,7 @@ wxString makeCompany(int items, int perItem) {
     wxSQLite3Database& db = model.db();
     {
         wxSQLite3Transaction tx(&db);
-        db.ExecuteUpdate("INSERT INTO sklad(id,nazev,popis,ocenovani) VALUES(1,'Hlavní','',0)");
+        db.ExecuteUpdate("INSERT INTO sklad(id,nazev,popis,ocenovani) VALUES(1,'Hlavni','',0)");
         wxSQLite3Statement z = db.PrepareStatement(
             "INSERT INTO zasoba(id,cislo,nazev,popis,ocenovani,mj,pocet,celkem,skladid,cenamj,bezdph,dph) "
             "VALUES(?,?,?,'',?,'ks',0,0,1,100,1,21)");
@@ -69,7 +69,7 @@ wxString makeCompany(int items, int perItem) {
         for (int i = 1; i <= items; ++i) {
             z.Bind(1, i);
             z.Bind(2, wxString::Format("ZB%06d", i));
-            z.Bind(3, wxString::Format("Zboží %d", i));
+            z.Bind(3, wxString::Format("Zbozi %d", i));
             z.Bind(4, i % 2);
             z.ExecuteUpdate();
             z.Reset();
