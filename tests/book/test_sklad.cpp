@@ -16,7 +16,11 @@
 #include "SkladTisk.h"
 #include "SkladyDialog.h"
 #include "ZasobaDialog.h"
+#include "book/lxbook.h"
+#include "book/lxbookpage.h"
+#include "book/lxlistctrl.h"
 #include "booktest.h"
+#include "navigation.h"
 #include "fakturace/dokladform.h"
 #include "lxsettings.h"
 #include "printtest.h"
@@ -248,4 +252,43 @@ TEST_F(StockDialogs, PrintsShowTheItemsTheirMovementsAndStockTakings) {
     }
     nahled->Destroy();
     wxYield();
+}
+
+TEST_F(StockDialogs, PageShowsTheWorkingDayStateAndMarksItemsUnderTheirMinimum) {
+    ASSERT_TRUE(prijem("10", "100", "1.3.2024").closed);
+    ASSERT_TRUE(prijem("5", "100", "20.6.2024").closed);  // after the working day
+    const int druha = skladform::ulozitZasobu(*m_model, Zasoba(-1, "", u8("Matice M6"), "", 0, "ks", 0, 0,
+                                                                m_skladId, 1, true, 21));
+    skladform::PohybForm f;
+    f.zasobaid = druha;
+    f.datum = iso("2024-06-10");  // on the working day itself
+    f.pocet = 3;
+    f.cenamj = 2;
+    ASSERT_EQ(skladform::ulozitPohyb(*m_model, f), wxString());
+    skladminimum::setMinimum(druha, 5);
+
+    m_book->createPages();
+    m_book->selectPage(NAV_ZASOBY);
+    lxBookPage* page = m_book->page(NAV_ZASOBY);
+    ASSERT_NE(page, nullptr);
+    ASSERT_EQ(page->rows().rowCount(), 2u);
+    struct Row {
+        int id;
+        const char *mnozstvi, *hodnota;
+        bool cervena;
+    } rows[] = {{m_zasoba, "10,000", "1\u00a0000,00", false}, {druha, "3,000", "6,00", true}};
+    for (const Row& r : rows) {
+        const long i = page->rows().indexOfId(r.id);
+        ASSERT_GE(i, 0);
+        EXPECT_EQ(page->rows().text(i, 4), u8(r.mnozstvi));
+        EXPECT_EQ(page->rows().text(i, 6), u8(r.hodnota));
+        EXPECT_EQ(page->rows().textColour(i).IsOk(), r.cervena) << r.id;
+    }
+
+    page->list()->selectId(m_zasoba);
+    m_prompts.answerQuestion(true);
+    ASSERT_TRUE(page->run(BOOK_DELETE));
+    EXPECT_EQ(lastShown(), u8("Opravdu smazat zásobu\nZB0001\nŠroub M6?"));
+    EXPECT_FALSE(m_model->hasZasoba(m_zasoba));
+    EXPECT_EQ(m_model->pohybyzasobByZasobaId(m_zasoba).size(), 0u);
 }
