@@ -31,7 +31,11 @@ void copyZasoba(lxBookPage* page, int id) {
     const int kopie = model->copyZasoba(id);
     if (kopie <= 0) return;
     ZasobaDialog dialog(page, kopie);
-    if (dialog.ShowModal() != wxID_OK) model->deleteZasoba(kopie);
+    // The copy took the next ZB number; it is used once the copy stays.
+    if (dialog.ShowModal() == wxID_OK)
+        model->increaseRadaCislo("ZB");
+    else
+        skladform::smazatZasobu(*model, kopie);
 }
 
 void deleteZasoba(lxBookPage* page, int id) {
