@@ -60,6 +60,7 @@ class evidaFrame : public wxFrame {
         ID_ODPISKUPINY,
         ID_ZASOBY,
         ID_INVENTURY,
+        ID_SKLADY,
         ID_DATUM,
         ID_EDITOR_SABLON,
         ID_AKTUALIZACE

@@ -10,7 +10,10 @@
 #include "DphshWizard.h"
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
+#include "InventuryDialog.h"
+#include "MajetekZavazkyDialog.h"
 #include "OdpiskupinyDialog.h"
+#include "SkladyDialog.h"
 #include "PredkontacesDialog.h"
 #include "PrijmyVydajeDialog.h"
 #include "KontrolaPodaniDialog.h"
@@ -76,8 +79,7 @@ const PageItem PAGE_ITEMS[] = {
 // tax, the sent-invoice log, stock-takings, the template editor). Their items are in place
 // and stay disabled until then.
 const int LATER_ITEMS[] = {
-    evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_DAN_Z_PRIJMU,
-    evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_INVENTURY,       evidaFrame::ID_EDITOR_SABLON,
+    evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_EDITOR_SABLON,
 };
 
 // The VAT commands, for VAT payers only.
@@ -169,6 +171,7 @@ void evidaFrame::createMenuBar() {
     auto* sklad = new wxMenu();
     sklad->Append(ID_ZASOBY, u8("Kniha zásob"));
     sklad->Append(ID_INVENTURY, u8("Inventury"));
+    sklad->Append(ID_SKLADY, u8("Sklady"));
     bar->Append(sklad, u8("Sk&lad"));
 
     auto* upravy = new wxMenu();
@@ -202,6 +205,10 @@ void evidaFrame::createMenuBar() {
          ID_ODPISKUPINY);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PrijmyVydajeDialog>(this, m_model.get()); },
          ID_PREHLED_PRIJMU);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<MajetekZavazkyDialog>(this, m_model.get()); },
+         ID_PREHLED_MAJETKU);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<InventuryDialog>(this, m_model.get()); }, ID_INVENTURY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<SkladyDialog>(this, m_model.get()); }, ID_SKLADY);
     // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,

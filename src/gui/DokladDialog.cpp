@@ -103,7 +103,10 @@ DokladDialog::DokladDialog(wxWindow* parent, DruhDokladu druh, int id, bool kopi
         } else {
             m_form = novyDoklad(*model, druh);
         }
-        if (!m_form.novy) m_puvodniPolozky = polozkyDokladu(*model, m_form);
+        if (!m_form.novy) {
+            m_puvodniPolozky = polozkyDokladu(*model, m_form);
+            m_puvodniPohyby = pohybyDokladu(*model, m_form);
+        }
     }
     m_form.druh = druh;
     build();
@@ -132,7 +135,7 @@ void DokladDialog::undo() {
     if (m_form.novy)
         zrusitNovyDoklad(*model, m_form);
     else if (m_polozkyZmeneny)
-        obnovitPolozky(*model, m_form, m_puvodniPolozky);
+        obnovitPolozky(*model, m_form, m_puvodniPolozky, m_puvodniPohyby);
 }
 
 void DokladDialog::build() {
@@ -473,6 +476,7 @@ bool DokladDialog::save() {
     m_saved = true;
     m_polozkyZmeneny = false;
     m_puvodniPolozky = polozkyDokladu(*model, m_form);
+    m_puvodniPohyby = pohybyDokladu(*model, m_form);
     refreshPolozky();
     return true;
 }
@@ -705,7 +709,11 @@ void DokladDialog::smazatPolozku() {
     if (!model || id <= 0) return;
     const wxString dotaz = wxString::Format(u8("Opravdu smazat položku:\n%s?"), model->getFaPolozka(id).popis());
     if (!prompts().question(dotaz, u8("Dotaz"), this)) return;
-    if (model->deleteFaPolozka(id)) m_polozkyZmeneny = true;
+    const wxString zprava = ::smazatPolozku(*model, readForm(), id);
+    if (zprava.empty())
+        m_polozkyZmeneny = true;
+    else
+        prompts().info(zprava, u8("Informace"), this);
     refreshPolozky();
 }
 

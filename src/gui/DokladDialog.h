@@ -89,6 +89,7 @@ class DokladDialog : public wxDialog {
     bool m_splatnostZmenena = false;
     bool m_polozkyZmeneny = false;      // items added, edited or deleted since the last save
     lxFaPolozkaArray m_puvodniPolozky;  // an edited document's items when the dialog opened
+    lxPohybzasobArray m_puvodniPohyby;  // and the stock movements they made
     std::vector<int> m_menaIds;
     std::vector<int> m_uhradaIds;
     std::vector<int> m_polozkaIds;            // the listed items' ids, in list order

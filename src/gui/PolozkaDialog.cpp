@@ -37,6 +37,11 @@ PolozkaDialog::PolozkaDialog(wxWindow* parent, const DokladForm& doklad, int id)
         if (m_form.id <= 0) m_form.sazba = m_doklad.platce ? model->zakladniSazba(model->currentRok()) : 0;
     }
     build();
+    if (m_zasoba) {
+        m_zasoba->SetSelection(0);
+        for (size_t i = 0; i < m_zasobaIds.size(); ++i)
+            if (m_zasobaIds[i] == m_form.zasobaid) m_zasoba->SetSelection(static_cast<int>(i) + 1);
+    }
     m_popis->ChangeValue(m_form.popis);
     m_mj->ChangeValue(m_form.mj);
     m_pocet->SetValue(m_form.pocet);
@@ -61,6 +66,20 @@ void PolozkaDialog::build() {
         grid->Add(w, expand ? wxSizerFlags().Expand() : wxSizerFlags());
         return w;
     };
+    // Only invoices move stock.
+    DbModel* model = openModel();
+    if (m_doklad.faktura() && model) {
+        wxArrayString zasoby;
+        zasoby.Add(u8("(žádná)"));
+        for (const auto& z : model->zasoby()) {
+            zasoby.Add(z->cislo() + " " + z->nazev());
+            m_zasobaIds.push_back(z->id());
+        }
+        label("Zásoba:");
+        m_zasoba =
+            new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, zasoby, 0, wxDefaultValidator, "zasoba");
+        add(m_zasoba, true);
+    }
     label("Popis:");
     m_popis =
         new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(300, -1), 0, wxDefaultValidator, "popis");
@@ -99,6 +118,7 @@ void PolozkaDialog::build() {
     top->Add(grid, wxSizerFlags(1).Expand().Border(wxALL, 10));
     addOkZrusit(this, top, [this] { return save(); });
     SetSizerAndFit(top);
+    if (m_zasoba) m_zasoba->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { zasobaChanged(); });
     m_pocet->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { recalculate(); });
     m_cenamj->Bind(wxEVT_TEXT, [this](wxCommandEvent&) { recalculate(); });
     if (m_sazba) {
@@ -111,6 +131,8 @@ bool PolozkaDialog::readForm(PolozkaForm* form, wxString* zprava, wxWindow** pol
     *form = m_form;
     form->popis = m_popis->GetValue().Strip(wxString::both);
     form->mj = m_mj->GetValue().Strip(wxString::both);
+    const int zasoba = m_zasoba ? m_zasoba->GetSelection() - 1 : -1;
+    form->zasobaid = zasoba >= 0 && zasoba < static_cast<int>(m_zasobaIds.size()) ? m_zasobaIds[zasoba] : -1;
     if (m_sazba) {
         const int sel = m_sazba->GetSelection();
         form->sazba = sel >= 0 && sel < static_cast<int>(m_sazby.size()) ? m_sazby[sel] : 0;
@@ -140,6 +162,22 @@ void PolozkaDialog::recalculate() {
     const castky::Polozka c = castkyPolozky(m_doklad, form);
     m_dph->SetLabel(lxformat::formatCastka(c.dph));
     m_celkem->SetLabel(lxformat::formatCastka(c.celkem));
+}
+
+void PolozkaDialog::zasobaChanged() {
+    DbModel* model = openModel();
+    const int sel = m_zasoba->GetSelection() - 1;
+    if (!model || sel < 0 || sel >= static_cast<int>(m_zasobaIds.size())) return;
+    const Zasoba z = model->getZasoba(m_zasobaIds[sel]);
+    if (!z.isValid()) return;
+    m_popis->ChangeValue(z.nazev());
+    m_mj->ChangeValue(z.mj());
+    m_cenamj->SetValue(z.cenamj());
+    if (m_sazba) {
+        m_sazba->SetStringSelection(wxString::Format("%d %%", z.dph()));
+        m_bezdph->SetValue(z.bezdph());
+    }
+    recalculate();
 }
 
 wxString PolozkaDialog::dphText() const { return m_dph->GetLabel(); }

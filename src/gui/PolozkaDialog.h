@@ -1,6 +1,7 @@
 // One item of an invoice or a receivable/liability: description, unit, quantity, unit price,
 // and for a VAT payer's document the rate and whether the price is without VAT. The item's
-// VAT and total are shown as they are typed and stored exactly as computed.
+// VAT and total are shown as they are typed and stored exactly as computed. An invoice's item
+// may name a stock item ("Zásoba"), whose movement the item then makes.
 #pragma once
 
 #include <wx/dialog.h>
@@ -35,11 +36,15 @@ class PolozkaDialog : public wxDialog {
  private:
     void build();
     void recalculate();
+    // A chosen stock item fills the description, unit, price and rate from its card.
+    void zasobaChanged();
 
     DokladForm m_doklad;
     PolozkaForm m_form;
     std::vector<int> m_sazby;
+    std::vector<int> m_zasobaIds;  // the stock choice's items after "(žádná)"
 
+    wxChoice* m_zasoba = nullptr;
     wxTextCtrl* m_popis = nullptr;
     wxTextCtrl* m_mj = nullptr;
     lxAmountCtrl* m_pocet = nullptr;

@@ -10,6 +10,7 @@
 #include "lxsettings.h"
 #include "lxutils.h"
 #include "fakturace/souhrndokladu.h"
+#include "sklad/minimum.h"
 
 namespace bookshapes {
 
@@ -282,9 +283,29 @@ lxPageShape<ZasobaView> zasoby() {
                  amountColumn<ZasobaView>("Množství", 100, &ZasobaView::pocet, &lxformat::formatMnozstvi),
                  amountColumn<ZasobaView>("Cena za MJ", 100, cenaMj),
                  amountColumn<ZasobaView>("Hodnota", 110, &ZasobaView::celkem)};
-    s.source = fromModel(&DbModel::zasobyview);
+    // The quantity and value at the end of the working day, all items valued in one pass.
+    s.source = [] {
+        DbModel* model = openModel();
+        if (!model) return lxZasobaViewArray();
+        lxZasobaViewArray rows = model->zasobyview();
+        std::map<int, DbModel::StavZasoby> stavy;
+        for (const DbModel::StavZasoby& st : model->getZasobyStav(pracovniDen() + wxDateSpan::Day()))
+            stavy[st.zasobaid] = st;
+        for (auto& r : rows) {
+            const DbModel::StavZasoby& st = stavy[r->id()];
+            r->setPocet(st.pocet);
+            r->setCelkem(st.celkem);
+        }
+        return rows;
+    };
+    const auto podMinimem = [](const ZasobaView& r) {
+        return r.pocet() < -1e-9 || r.pocet() < skladminimum::minimum(r.id()) - 1e-9;
+    };
     s.choices = {{u8("Na skladě"), [](const ZasobaView& r) { return r.pocet() > 1e-9; }},
-                 {u8("Bez zásoby"), [](const ZasobaView& r) { return r.pocet() <= 1e-9; }}};
+                 {u8("Bez zásoby"), [](const ZasobaView& r) { return r.pocet() <= 1e-9; }},
+                 {u8("Pod minimem"), podMinimem}};
+    // Items in the red and those under the minimum the user set stand out in red.
+    s.colour = [podMinimem](const ZasobaView& r) { return podMinimem(r) ? wxColour(192, 0, 0) : wxColour(); };
     s.footer = [](const std::vector<const ZasobaView*>& rows) {
         double hodnota = 0;
         for (const ZasobaView* r : rows) hodnota += r->celkem();

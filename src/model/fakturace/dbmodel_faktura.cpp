@@ -190,8 +190,15 @@ int DbModel::firstFaUhrada() {
     return sqlvalue::integer(m_db, -1, "SELECT id FROM fauhrada ORDER BY id LIMIT 1");
 }
 
+// The items whose movements go get their cached state recomputed without them.
 bool DbModel::deletePohybyzasobByFakturaId(int id) {
-    return !isForeignStorage() && sqlvalue::execute(m_db, "DELETE FROM pohybzasob WHERE fakturaid=?", id);
+    if (isForeignStorage()) return false;
+    const std::vector<int> zasoby =
+        sqlvalue::integers(m_db, "SELECT DISTINCT zasobaid FROM pohybzasob WHERE fakturaid=?", id);
+    if (!sqlvalue::execute(m_db, "DELETE FROM pohybzasob WHERE fakturaid=?", id)) return false;
+    for (int zasobaid : zasoby)
+        if (!updateStavZasob(zasobaid)) return false;
+    return true;
 }
 
 bool DbModel::editPohybzasobDatum(int fakturaid, const wxDateTime& datum) {
