@@ -7,7 +7,9 @@
 #include <wx/listctrl.h>
 #include <wx/utils.h>
 
+#include "MajetekZavazkyDialog.h"
 #include "PrijmyVydajeDialog.h"
+#include "controls/lxamountctrl.h"
 #include "booktest.h"
 #include "printtest.h"
 #include "recordio.h"
@@ -72,4 +74,34 @@ TEST_F(Prehledy, FlatRateChoiceChangesTheExpensesAndThePrint) {
     wxString obsah;
     ASSERT_TRUE(wxFFile(csv).ReadAll(&obsah));
     EXPECT_THAT(obsah.utf8_string(), HasSubstr(u8("\"Paušální výdaje\";\"60 %\";\"60000,00\"").utf8_string()));
+}
+
+TEST_F(Prehledy, AssetsAndLiabilitiesAreEditedAndPrinted) {
+    ASSERT_TRUE(m_model->addPredkontace(Predkontace(903, "MZ", "Mzdy", false, 16)));
+    zapsat(903, 12000, 0);
+    MajetekZavazkyDialog dialog(m_frame);
+    screenshot(dialog, "majetekzavazky");
+    MajetekZavazky m;
+    ASSERT_TRUE(dialog.hodnoty(&m));
+    EXPECT_EQ(m.hodnota("kc_dpfmz18"), 12000);  // wages of the year from the journal
+    EXPECT_EQ(m.hodnota("kc_z_dpfmz05a"), -12000);
+
+    typeText(&dialog, "kc_z_dpfmz11", "12.500");
+    EXPECT_FALSE(dialog.hodnoty(&m));
+    EXPECT_THAT(m_prompts.transcript().utf8_string(), HasSubstr(u8("Rezervy: „12.500“ je nejednoznačné").utf8_string()));
+    typeText(&dialog, "kc_z_dpfmz11", "1 250,50");
+    ASSERT_TRUE(dialog.hodnoty(&m));
+    EXPECT_EQ(m.hodnota("kc_z_dpfmz11"), 1250.5);
+
+    const wxString path = m_home + "/mz.pdf";
+    m_prompts.answerChoice(1);
+    m_prompts.answerPath(path);
+    dialog.tisk();
+    wxString shots;
+    if (wxGetEnv("EVIDA_SCREENSHOTS", &shots) && !shots.empty()) wxCopyFile(path, shots + "/majetekzavazky.pdf");
+    const std::string text = PrintTest::pdfText(path, 0).utf8_string();
+    EXPECT_THAT(text, HasSubstr(wxString::Format(u8("Přehled majetku a závázků za rok %d"), m_model->currentRok())
+                                    .utf8_string()));
+    EXPECT_THAT(text, HasSubstr("1 250,50"));
+    EXPECT_THAT(text, HasSubstr("12 000,00"));
 }
