@@ -278,7 +278,7 @@ void evidaFrame::createMenuBar() {
     for (const PageItem& item : PAGE_ITEMS) Bind(wxEVT_MENU, &evidaFrame::onPage, this, item.id);
 
     // The menu is disabled without the vehicle log; a shortcut must not get round that.
-    auto jizdy = [this](std::function<void()> command) {
+    auto jenSKnihouJizd = [this](std::function<void()> command) {
         return [this, command](wxCommandEvent&) {
             if (m_jizdy && m_model && m_model->isOpen()) command();
         };
@@ -289,12 +289,12 @@ void evidaFrame::createMenuBar() {
             dialog.ShowModal();
         };
     };
-    Bind(wxEVT_MENU, jizdy([this] { selectNavigation(NAV_JIZDY); }), ID_KNIHA_JIZD);
-    Bind(wxEVT_MENU, jizdy(ciselnik(&jizdyciselniky::vozidla)), ID_VOZIDLA);
-    Bind(wxEVT_MENU, jizdy(ciselnik(&jizdyciselniky::ridici)), ID_RIDICI);
-    Bind(wxEVT_MENU, jizdy(ciselnik(&jizdyciselniky::phm)), ID_PHM);
-    Bind(wxEVT_MENU, jizdy(ciselnik(&jizdyciselniky::druhyVozidel)), ID_DRUHY_VOZIDEL);
-    Bind(wxEVT_MENU, jizdy([this] {
+    Bind(wxEVT_MENU, jenSKnihouJizd([this] { selectNavigation(NAV_JIZDY); }), ID_KNIHA_JIZD);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::vozidla)), ID_VOZIDLA);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::ridici)), ID_RIDICI);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::phm)), ID_PHM);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::druhyVozidel)), ID_DRUHY_VOZIDEL);
+    Bind(wxEVT_MENU, jenSKnihouJizd([this] {
              NahradaDialog dialog(this);
              dialog.ShowModal();
          }),

@@ -15,7 +15,16 @@
 JizdyCiselnikDialog::JizdyCiselnikDialog(wxWindow* parent, JizdyCiselnik popis, bool chooser)
     : CiselnikDialog(parent, popis.title, popis.columns, popis.menu, chooser, extraCommands(this, popis)),
       m_popis(std::move(popis)) {
-    for (size_t c = 0; c < m_popis.widths.size(); ++c) list()->SetColumnWidth(static_cast<int>(c), m_popis.widths[c]);
+    int sirka = 0;
+    for (size_t c = 0; c < m_popis.widths.size(); ++c) {
+        list()->SetColumnWidth(static_cast<int>(c), m_popis.widths[c]);
+        sirka += m_popis.widths[c];
+    }
+    // Room for every column without a horizontal scroll bar.
+    if (sirka + 20 > list()->GetMinSize().x) {
+        list()->SetMinSize(wxSize(sirka + 20, list()->GetMinSize().y));
+        Fit();
+    }
     refresh();
 }
 
@@ -133,7 +142,7 @@ JizdyCiselnik vozidla() {
     JizdyCiselnik c;
     c.title = u8("Vozidla");
     c.columns = strings({"RZ", "Název", "Druh", "Pohonná hmota", "Spotřeba", "Soukromé"});
-    c.widths = {80, 130, 110, 110, 65, 70};
+    c.widths = {80, 130, 120, 120, 70, 80};
     c.menu = strings({"Přidat vozidlo", "Upravit vozidlo", "Kopírovat vozidlo", "Smazat vozidlo"});
     c.rows = [] {
         std::vector<std::pair<int, wxArrayString>> all;

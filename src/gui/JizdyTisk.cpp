@@ -87,6 +87,7 @@ NahradaTisk nahradaTisk(DbModel& model, int vozidloid, int rok, int mesic, wxStr
     t.druh = druh.jmeno();
     t.phm = phm.jmeno();
     t.spotreba = v.spotreba();
+    t.jednotka = v.phmid() == jizdy::PHM_ELEKTRINA ? "kWh" : "l";
     t.soukrome = v.soukrome();
     t.obdobi = lxutils::mesicString(mesic) + wxString::Format(" %d", rok);
     for (const jizdy::NahradaRadek& r : n.radky)

@@ -3,6 +3,7 @@
 // name, and the monthly reimbursement.
 #include <gmock/gmock.h>
 #include <wx/checkbox.h>
+#include <wx/file.h>
 #include <wx/choice.h>
 #include <wx/listctrl.h>
 #include <wx/spinctrl.h>
@@ -14,9 +15,13 @@
 #include "NahradaKmDialog.h"
 #include "JizdyTisk.h"
 #include "VozidloDialog.h"
+#include "book/lxbook.h"
+#include "book/lxbookpage.h"
+#include "book/lxlistctrl.h"
 #include "booktest.h"
 #include "controls/lxamountctrl.h"
 #include "jizdy/jizdy.h"
+#include "navigation.h"
 #include "printtest.h"
 
 namespace {
@@ -292,4 +297,53 @@ TEST_F(Jizdy, ReimbursementSheetSavedAsPdfFromTheStoredTrips) {
     EXPECT_EQ(tiskNahrady(m_frame, 1, 2025, 10), "");
     EXPECT_EQ(m_prompts.transcript(),
               u8("Pro rok 2025 není zadána základní náhrada za km pro druh vozidla „Osobní silniční motorové vozidlo“.\n"));
+}
+
+TEST_F(Jizdy, PageOfTheYearPrintsExportsChecksAndDeletes) {
+    ASSERT_TRUE(m_model->addJizda(Jizda(2, cas("2024-03-01 08:00:00"), cas("2024-03-01 09:00:00"), 500, 560,
+                                        u8("Praha - Mělník"), u8("Nákup"), 1, 1)));
+    ASSERT_TRUE(m_model->addJizda(Jizda(3, cas("2024-03-02 08:00:00"), cas("2024-03-02 09:00:00"), 550, 600,
+                                        u8("Mělník - Praha"), u8("Návrat"), 1, 2)));
+    m_book->setJizdyVisible(true);
+    m_book->createPages();
+    m_book->selectPage(NAV_JIZDY);
+    lxBookPage* page = m_book->page(NAV_JIZDY);
+    ASSERT_NE(page, nullptr);
+    EXPECT_EQ(page->list()->GetItemCount(), 2);  // the 2026 trip is in another year
+    for (lxBookAction a : {BOOK_ADD, BOOK_EDIT, BOOK_COPY, BOOK_DELETE}) {
+        page->list()->selectId(2);
+        EXPECT_TRUE(page->canRun(a)) << a;
+    }
+
+    // The book of the selected trip's vehicle, saved as PDF.
+    const wxString pdf = m_home + "/kniha.pdf";
+    m_prompts.answerChoice(1);
+    m_prompts.answerPath(pdf);
+    page->print();
+    const wxString text = PrintTest::pdfText(pdf);
+    for (const char* expected : {"Vozidlo: 1AB 2345, Škoda Octavia", "Období: 01.03.2024 – 02.03.2024",
+                                 "Praha - Mělník", "Eva Černá", "Jízd: 2", "110"})
+        EXPECT_NE(text.Find(u8(expected)), wxNOT_FOUND) << expected << "\n" << text;
+
+    const wxString csv = m_home + "/jizdy.csv";
+    ASSERT_TRUE(page->exportCsv(csv));
+    wxString obsah;
+    wxFile(csv).ReadAll(&obsah, wxConvUTF8);
+    EXPECT_TRUE(obsah.Contains(u8("Mělník - Praha"))) << obsah;
+
+    // The odometer goes back 10 km between the two trips.
+    m_prompts.clear();
+    page->list()->selectId(3);
+    ASSERT_TRUE(page->runRowCommand(1));
+    ASSERT_EQ(m_prompts.shown().size(), 1u);
+    EXPECT_EQ(m_prompts.shown()[0].caption, u8("Kontrola tachometru"));
+    EXPECT_TRUE(m_prompts.shown()[0].text.Contains(u8("tachometr jde zpět, počáteční stav 550 km je nižší než "
+                                                      "konečný stav 560 km")))
+        << m_prompts.shown()[0].text;
+
+    m_prompts.answerQuestion(true);
+    page->list()->selectId(3);
+    ASSERT_TRUE(page->run(BOOK_DELETE));
+    EXPECT_FALSE(m_model->hasJizda(3));
+    EXPECT_EQ(page->list()->GetItemCount(), 1);
 }

@@ -70,7 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
         JizdyPrintCase{"reimbursement",
                        [] { return std::make_unique<NahradaPrint>(nullptr, nahrada(true)); },
                        {"Náhrada za použití soukromého vozidla", "Škoda Octavia", "RZ: 1AB 2345", "Měsíc: Říjen 2026",
-                        "spotřeba: 6,5 na 100 km", "14.10.2026", "Praha - Benešov", "5,9", "34,7", "407,78", "815,55",
+                        "Pohonná hmota: Benzín automobilový 95 oktanů, spotřeba 6,5 l na 100 km", "14.10.2026", "Praha - Benešov", "5,9", "34,7", "407,78", "815,55",
                         "Jízd: 2", "150", "1 223,33"}},
         JizdyPrintCase{"company_vehicle",
                        [] { return std::make_unique<NahradaPrint>(nullptr, nahrada(false)); },

@@ -29,8 +29,9 @@ NahradaPrint::NahradaPrint(wxWindow* parent, const NahradaTisk& n)
     wxString nadpis = n.soukrome ? u8("Náhrada za použití soukromého vozidla k pracovním cestám")
                                  : u8("Spotřeba PHM služebního vozidla (informativně)");
     nadpis += u8("\nVozidlo: ") + n.vozidlo + u8(", RZ: ") + n.rz;
-    nadpis += u8("\nDruh vozidla: ") + n.druh + u8(", pohonná hmota: ") + n.phm + u8(", spotřeba: ") +
-              cislo(n.spotreba) + u8(" na 100 km");
+    nadpis += u8("\nDruh vozidla: ") + n.druh;
+    nadpis += u8("\nPohonná hmota: ") + n.phm + u8(", spotřeba ") + cislo(n.spotreba) + " " + n.jednotka +
+              u8(" na 100 km");
     nadpis += u8("\nMěsíc: ") + n.obdobi;
     m_nahrada.tableTitle.title = nadpis;
 

@@ -28,6 +28,7 @@ struct NahradaTisk {
     wxString druh;      // the kind of vehicle
     wxString phm;       // the fuel
     double spotreba = 0;
+    wxString jednotka = "l";  // of the fuel: "l", or "kWh" for electricity
     bool soukrome = true;
     wxString obdobi;    // "říjen 2026"
     std::vector<NahradaTiskRadek> radky;

@@ -13,6 +13,9 @@
 
 namespace jizdy {
 
+// The fuel kind of electric vehicles among the seeded fuels: measured in kWh, not litres.
+constexpr int PHM_ELEKTRINA = 5;
+
 // --- typed values ---------------------------------------------------------------------------
 
 // A time of day as people type it: "8:30", "08:30", "8.30", "8" (whole hour), "" is midnight.
