@@ -9,6 +9,7 @@
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
 
+#include "CenaPhmDialog.h"
 #include "JizdaDialog.h"
 #include "JizdyCiselnikDialog.h"
 #include "NahradaDialog.h"
@@ -346,4 +347,37 @@ TEST_F(Jizdy, PageOfTheYearPrintsExportsChecksAndDeletes) {
     ASSERT_TRUE(page->run(BOOK_DELETE));
     EXPECT_FALSE(m_model->hasJizda(3));
     EXPECT_EQ(page->list()->GetItemCount(), 1);
+}
+
+TEST_F(Jizdy, FuelPriceValidOnceForEachDay) {
+    struct {
+        const char* cena;
+        const char* od;
+        const char* doKdy;
+        const char* zprava;
+    } cases[] = {
+        {"34,50", "1.6.2026", "31.12.2026", "V tomto období už platí cena 34,70 (od 01.01.2026 do 31.12.2026).\n"},
+        {"34,50", "1.1.2027", "31.2.2027", "Platí do: „31.2.2027“ není platné datum.\nZadejte například 15.10.2026.\n"},
+        {"34,50", "31.12.2027", "1.1.2027", "Konec platnosti je dříve než její začátek.\n"},
+        {"-1", "1.1.2027", "31.12.2027", "Cena nemůže být záporná.\n"},
+        {"34,50", "1.1.2027", "31.12.2027", ""},
+    };
+    for (const auto& c : cases) {
+        m_prompts.clear();
+        CenaPhmDialog dialog(m_frame, 1);
+        const Outcome outcome = fillAndOk(dialog, [&c](wxDialog* d) {
+            typeText(d, "cena", c.cena);
+            typeDate(d, "validfrom", c.od);
+            typeDate(d, "validto", c.doKdy);
+        });
+        EXPECT_EQ(outcome.closed, !*c.zprava) << c.od;
+        EXPECT_EQ(m_prompts.transcript(), u8(c.zprava)) << c.od;
+    }
+    const lxCenaPhmArray ceny = m_model->cenyPhm(1);
+    EXPECT_EQ(ceny.back()->cena(), 34.5);
+    EXPECT_EQ(ceny.back()->validFrom(), iso("2027-01-01"));
+    // A copy starts a year later.
+    CenaPhmDialog kopie(m_frame, 1, -1, ceny.back()->id());
+    EXPECT_EQ(field<wxTextCtrl>(&kopie, "validfromText")->GetValue(), "01.01.2028");
+    screenshot(kopie, "cenaphm");
 }
