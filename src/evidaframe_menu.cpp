@@ -2,6 +2,7 @@
 #include <wx/menu.h>
 #include <wx/treectrl.h>
 
+#include <functional>
 #include <iterator>
 
 #include "DphDruhyDialog.h"
@@ -11,7 +12,9 @@
 #include "ciselnikyprompt.h"
 #include "FauhradyDialog.h"
 #include "InventuryDialog.h"
+#include "JizdyCiselnikDialog.h"
 #include "MajetekZavazkyDialog.h"
+#include "NahradaDialog.h"
 #include "OdpiskupinyDialog.h"
 #include "SkladyDialog.h"
 #include "PredkontacesDialog.h"
@@ -94,6 +97,16 @@ bool isVatItemReady(int id) {
     return false;
 }
 
+// The commands of the vehicle log's menu; it is there only for companies that keep the log.
+enum {
+    ID_KNIHA_JIZD = wxID_HIGHEST + 400,
+    ID_VOZIDLA,
+    ID_RIDICI,
+    ID_PHM,
+    ID_DRUHY_VOZIDEL,
+    ID_NAHRADA,
+};
+
 // Opens a code-list dialog over the open company.
 template <class Dialog>
 void showCodeList(wxWindow* parent, DbModel* model) {
@@ -173,6 +186,17 @@ void evidaFrame::createMenuBar() {
     sklad->Append(ID_INVENTURY, u8("Inventury"));
     sklad->Append(ID_SKLADY, u8("Sklady"));
     bar->Append(sklad, u8("Sk&lad"));
+
+    auto* jizdy = new wxMenu();
+    jizdy->Append(ID_KNIHA_JIZD, u8("Kniha jízd"));
+    jizdy->AppendSeparator();
+    jizdy->Append(ID_VOZIDLA, u8("Vozidla"));
+    jizdy->Append(ID_RIDICI, u8("Řidiči"));
+    jizdy->Append(ID_PHM, u8("Pohonné hmoty"));
+    jizdy->Append(ID_DRUHY_VOZIDEL, u8("Druhy vozidel a sazby náhrad"));
+    jizdy->AppendSeparator();
+    jizdy->Append(ID_NAHRADA, u8("Náhrada za použití vozidla"));
+    bar->Append(jizdy, u8("Jí&zdy"));
 
     auto* upravy = new wxMenu();
     upravy->Append(ID_DATUM, u8("Datum aplikace\tAlt-D"));
@@ -266,6 +290,29 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onHelp, this, wxID_HELP);
     Bind(wxEVT_MENU, &evidaFrame::onAktualizace, this, ID_AKTUALIZACE);
     for (const PageItem& item : PAGE_ITEMS) Bind(wxEVT_MENU, &evidaFrame::onPage, this, item.id);
+
+    // The menu is disabled without the vehicle log; a shortcut must not get round that.
+    auto jenSKnihouJizd = [this](std::function<void()> command) {
+        return [this, command](wxCommandEvent&) {
+            if (m_jizdy && m_model && m_model->isOpen()) command();
+        };
+    };
+    auto ciselnik = [this](JizdyCiselnik (*popis)()) {
+        return [this, popis] {
+            JizdyCiselnikDialog dialog(this, popis());
+            dialog.ShowModal();
+        };
+    };
+    Bind(wxEVT_MENU, jenSKnihouJizd([this] { selectNavigation(NAV_JIZDY); }), ID_KNIHA_JIZD);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::vozidla)), ID_VOZIDLA);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::ridici)), ID_RIDICI);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::phm)), ID_PHM);
+    Bind(wxEVT_MENU, jenSKnihouJizd(ciselnik(&jizdyciselniky::druhyVozidel)), ID_DRUHY_VOZIDEL);
+    Bind(wxEVT_MENU, jenSKnihouJizd([this] {
+             NahradaDialog dialog(this);
+             dialog.ShowModal();
+         }),
+         ID_NAHRADA);
 }
 
 void evidaFrame::onStavUctu(wxCommandEvent&) {
@@ -339,5 +386,9 @@ void evidaFrame::createRemoveJizdy() {
     // vehicle log; every other company has it.
     m_jizdy = !(m_model && m_model->isOpen() && m_model->isFirmaPausal());
     if (m_pagesCreated) m_book->setJizdyVisible(m_jizdy);
+    if (wxMenuBar* bar = GetMenuBar()) {
+        const int menu = bar->FindMenu(u8("Jízdy"));
+        if (menu != wxNOT_FOUND) bar->EnableTop(menu, m_jizdy);
+    }
     createNavigation();
 }

@@ -5,19 +5,22 @@
 #include "prompts.h"
 
 CiselnikDialog::CiselnikDialog(wxWindow* parent, const wxString& title, const wxArrayString& columns,
-                               const wxArrayString& menu, bool chooser)
-    : SeznamDialog(parent, title, columns, editingCommands(this, menu), chooser) {}
+                               const wxArrayString& menu, bool chooser, std::vector<Command> extra)
+    : SeznamDialog(parent, title, columns, editingCommands(this, menu, std::move(extra)), chooser) {}
 
-std::vector<SeznamDialog::Command> CiselnikDialog::editingCommands(CiselnikDialog* self, const wxArrayString& menu) {
+std::vector<SeznamDialog::Command> CiselnikDialog::editingCommands(CiselnikDialog* self, const wxArrayString& menu,
+                                                                  std::vector<Command> extra) {
     // The commands run only once the dialog is built, so they may call the list's own versions.
     auto caption = [menu](size_t i) { return [text = menu[i]](int) { return text; }; };
     const wxArrayString buttons = strings({"Přidat", "Upravit", "Kopírovat", "Smazat"});
-    return {
+    std::vector<Command> commands = {
         {buttons[0], caption(0), false, [self](int) { self->addRow(); }},
         {buttons[1], caption(1), true, [self](int id) { self->editRow(id); }, /*onDoubleClick=*/true},
         {buttons[2], caption(2), true, [self](int id) { self->copyRow(id); }},
         {buttons[3], caption(3), true, [self](int id) { self->deleteRow(id); }},
     };
+    for (Command& c : extra) commands.push_back(std::move(c));
+    return commands;
 }
 
 void CiselnikDialog::deleteAfterQuestion(const wxString& question, const std::function<bool(wxString*)>& remove) {

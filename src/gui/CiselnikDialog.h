@@ -16,9 +16,10 @@ class CiselnikDialog : public SeznamDialog {
     virtual void deleteRow(int id) = 0;
 
  protected:
-    // `menu` holds the context menu's four captions: add, edit, copy, delete.
+    // `menu` holds the context menu's four captions: add, edit, copy, delete; `extra` are
+    // further commands of the list after them.
     CiselnikDialog(wxWindow* parent, const wxString& title, const wxArrayString& columns, const wxArrayString& menu,
-                   bool chooser);
+                   bool chooser, std::vector<Command> extra = {});
     // Asks `question` ("Dotaz") and on yes runs `remove`, which gives the reason of a refusal
     // in its argument; the reason is shown.
     void deleteAfterQuestion(const wxString& question, const std::function<bool(wxString*)>& remove);
@@ -27,7 +28,8 @@ class CiselnikDialog : public SeznamDialog {
     static std::vector<Row> uctyRows(bool banka);
 
  private:
-    static std::vector<Command> editingCommands(CiselnikDialog* self, const wxArrayString& menu);
+    static std::vector<Command> editingCommands(CiselnikDialog* self, const wxArrayString& menu,
+                                                std::vector<Command> extra);
 };
 
 // A code list whose rows are added, edited and copied in one form class `Form`, constructed

@@ -98,6 +98,8 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
         {"&Fakturace", "Faktury vydané|Faktury přijaté|Pohledávky|Závazky|Úhrady|Seznam odeslaných faktur|Členění DPH"},
         {"Ma&jetek", "Kniha majetku|Odpisové skupiny"},
         {"Sk&lad", "Kniha zásob|Inventury|Sklady"},
+        {"Jí&zdy",
+         "Kniha jízd|Vozidla|Řidiči|Pohonné hmoty|Druhy vozidel a sazby náhrad|Náhrada za použití vozidla"},
         {"Ú&pravy", "Datum aplikace\tAlt-D|Editor šablon|Nastavení..."},
         {"&Nápověda", "Nápověda\tF1|Zkontrolovat aktualizace"},
     };
@@ -141,6 +143,13 @@ TEST_F(MainWindow, NavigationTreeSelectsPagesAndDropsTheVehicleLogForFlatRateExp
         u8("Účetnictví{Pěněžní deník|Pokladna|Banka}|Fakturace{Faktury vydané|Faktury přijaté}|"
            "Pohledávky a závazky{Pohledávky|Závazky}|Majetek{Kniha majetku}|Sklad{Kniha zásob}");
     EXPECT_EQ(treeText(tree, tree->GetRootItem()), groups + u8("|Jízdy{Kniha jízd}"));
+    wxMenuBar* bar = m_frame->GetMenuBar();
+    const int jizdy = bar->FindMenu(u8("Jízdy"));
+    ASSERT_NE(jizdy, wxNOT_FOUND);
+    EXPECT_TRUE(bar->IsEnabledTop(jizdy));
+    const int knihaJizd = bar->FindMenuItem(u8("Jízdy"), u8("Kniha jízd"));
+    command(knihaJizd);
+    EXPECT_EQ(m_frame->book()->currentNavigation(), NAV_JIZDY);
 
     tree->SelectItem(findLeaf(tree, tree->GetRootItem(), u8("Kniha jízd")));
     EXPECT_EQ(m_frame->book()->currentNavigation(), NAV_JIZDY);
@@ -156,6 +165,9 @@ TEST_F(MainWindow, NavigationTreeSelectsPagesAndDropsTheVehicleLogForFlatRateExp
     EXPECT_FALSE(m_frame->jizdyShown());
     EXPECT_EQ(treeText(tree, tree->GetRootItem()), groups);
     EXPECT_EQ(m_frame->book()->currentNavigation(), NAV_HOME);  // the vehicle log is gone
+    EXPECT_FALSE(bar->IsEnabledTop(jizdy));
+    command(knihaJizd);  // a shortcut does not get round the disabled menu
+    EXPECT_EQ(m_frame->book()->currentNavigation(), NAV_HOME);
 }
 
 TEST_F(MainWindow, BalancesCommandShowsEveryRegisterAndAccount) {

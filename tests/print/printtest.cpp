@@ -1,12 +1,16 @@
 #include "printtest.h"
 
+#include <wx/dcmemory.h>
 #include <wx/filename.h>
+#include <wx/prntbase.h>
 #include <wx/utils.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <regex>
 #include <sstream>
+
+#include "printcontroller.h"
 
 std::string runCommand(const std::string& command) {
     std::string out;
@@ -77,4 +81,29 @@ std::vector<PdfWord> PrintTest::pdfWords(const wxString& pdf) {
                              wxString::FromUTF8(m[5].str())});
     }
     return words;
+}
+
+int previewDarkPixels(lxPrintController& print, const wxString& png) {
+    wxPrintPreview* preview = print.createPreview();
+    if (!preview) return -1;
+    auto* frame = new wxPreviewFrame(preview, nullptr, "preview", wxDefaultPosition, wxSize(880, 650));
+    frame->Initialize();
+    preview->SetZoom(100);
+    preview->SetCurrentPage(1);
+    preview->UpdatePageRendering();
+    wxBitmap canvas(1400, 1400);
+    {
+        wxMemoryDC dc(canvas);
+        dc.SetBackground(*wxWHITE_BRUSH);
+        dc.Clear();
+        preview->PaintPage(preview->GetCanvas(), dc);
+    }
+    frame->Destroy();
+    const wxImage img = canvas.ConvertToImage();
+    if (!png.empty()) img.SaveFile(png, wxBITMAP_TYPE_PNG);
+    int dark = 0;
+    for (int y = 0; y < img.GetHeight(); ++y)
+        for (int x = 0; x < img.GetWidth(); ++x)
+            dark += img.GetRed(x, y) + img.GetGreen(x, y) + img.GetBlue(x, y) < 3 * 100;
+    return dark;
 }

@@ -44,5 +44,10 @@ class PrintTest : public ::testing::Test {
     wxString m_dir;
 };
 
+class lxPrintController;
+// How many pixels of the preview's first page are dark: an empty sheet has none. With `png`
+// the drawn page is saved there too, for a person to look at.
+int previewDarkPixels(lxPrintController& print, const wxString& png = wxString());
+
 // Output of a shell command.
 std::string runCommand(const std::string& command);
