@@ -56,6 +56,21 @@ void BM_Parovani(benchmark::State& state) {
 }
 BENCHMARK(BM_Parovani)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
 
+// The movements alone against an index built once: the part that grows with the statement.
+void BM_ParovaniPohybu(benchmark::State& state) {
+    vypis::ZnameUcty ucty;
+    for (int k = 1; k <= 500; ++k) ucty[wxString::Format("%d/0800", 999 + k)] = {k};
+    const vypis::Parovani parovani(doklady(), ucty, 1);
+    const std::vector<Pohyb> p = pohyby(static_cast<int>(state.range(0)));
+    for (auto _ : state) {
+        int nalezeno = 0;
+        for (const Pohyb& pohyb : p) nalezeno += parovani.navrh(pohyb).doklad >= 0;
+        benchmark::DoNotOptimize(nalezeno);
+    }
+    state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(BM_ParovaniPohybu)->Arg(2500)->Arg(5000)->Arg(10000)->Unit(benchmark::kMillisecond);
+
 void BM_CteniGpc(benchmark::State& state) {
     std::string s = "074" + std::string(125, '0') + "\r\n";
     s.replace(105, 3, "001");

@@ -1,6 +1,5 @@
 #include "evidacli_vypis.h"
 
-#include <wx/ffile.h>
 #include <wx/filename.h>
 
 #include <cstdio>
@@ -16,15 +15,6 @@ namespace {
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 void print(const wxString& text) { std::printf("%s\n", static_cast<const char*>(text.utf8_str())); }
 void printErr(const wxString& text) { std::fprintf(stderr, "%s\n", static_cast<const char*>(text.utf8_str())); }
-
-bool nacistSoubor(const wxString& path, std::string* bytes) {
-    wxFFile f(path, "rb");
-    if (!f.IsOpened()) return false;
-    const wxFileOffset delka = f.Length();
-    if (delka < 0 || static_cast<size_t>(delka) > vypis::MAX_VELIKOST) return false;
-    bytes->resize(static_cast<size_t>(delka));
-    return delka == 0 || f.Read(&(*bytes)[0], bytes->size()) == bytes->size();
-}
 
 // The account the statement is for: the one named, else the one whose number the statement
 // carries, else the first.
@@ -74,8 +64,9 @@ int importVypisu(DbModel& model, const std::vector<wxString>& args) {
     }
     if (soubor.empty()) return 2;
     std::string bytes;
-    if (!nacistSoubor(wxFileName(soubor).GetAbsolutePath(), &bytes)) {
-        printErr(u8("Soubor výpisu nelze přečíst: ") + soubor);
+    wxString zprava;
+    if (!vypis::nacistSoubor(wxFileName(soubor).GetAbsolutePath(), &bytes, &zprava)) {
+        printErr(zprava);
         return 1;
     }
     if (!kod.empty() && !model.hasBanka(kod)) {
@@ -100,7 +91,7 @@ int importVypisu(DbModel& model, const std::vector<wxString>& args) {
         return 1;
     }
     for (const Vypis& v : cteni.vypisy) {
-        const wxString chyba = vypis::kontrolaUctu(model.getBanka(bankaid), v);
+        const wxString chyba = vypis::kontrolaUctu(model.getBanka(bankaid), v, model.kodMena(model.getBanka(bankaid).menaid()));
         if (!chyba.empty()) {
             printErr(chyba);
             return 1;

@@ -280,7 +280,9 @@ TEST_F(VypisImport, OneBadMovementWritesNothingAndAnotherAccountIsRefused) {
     EXPECT_EQ(kontrolaUctu(m_model->getBanka(1), cizi),
               u8("Výpis je pro účet 19-999/0800, ne pro účet BU1 (19-2000145399/0800)"));
     cizi.ucet = "19-2000145399";
-    EXPECT_EQ(kontrolaUctu(m_model->getBanka(1), cizi), "");
+    EXPECT_EQ(kontrolaUctu(m_model->getBanka(1), cizi, "CZK"), "");
+    cizi.mena = "EUR";
+    EXPECT_EQ(kontrolaUctu(m_model->getBanka(1), cizi, "CZK"), u8("Výpis je v měně EUR, účet BU1 je veden v CZK"));
 }
 
 TEST_F(VypisImport, CommandLineProposesWritesOnceAndRefusesABrokenStatement) {

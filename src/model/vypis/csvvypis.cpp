@@ -1,11 +1,15 @@
 #include "csvvypis.h"
 
 #include <wx/config.h>
+#include <wx/fileconf.h>
 #include <wx/strconv.h>
 #include <wx/tokenzr.h>
 
 #include "csvtext.h"
 #include "lxformat.h"
+#include "lxutils.h"
+
+#include <memory>
 
 namespace vypis {
 
@@ -90,16 +94,31 @@ wxString klicMapovani(const wxString& ic, const wxString& zkratkaUctu) {
     return k;
 }
 
+namespace {
+
+// The program's settings file: the configuration the settings installed, or, before they have
+// (a tool that never loaded them), the same file opened here for this one access.
+wxConfigBase* nastaveni(std::unique_ptr<wxFileConfig>& vlastni) {
+    if (wxConfigBase* cfg = wxConfigBase::Get(false)) return cfg;
+    const wxString path = lxutils::dataDir() + "/evida.ini";
+    vlastni = std::make_unique<wxFileConfig>("evida", wxEmptyString, path, wxEmptyString, wxCONFIG_USE_LOCAL_FILE,
+                                             wxConvAuto());
+    return vlastni.get();
+}
+
+}  // namespace
+
 CsvMapovani nacistMapovani(const wxString& klic) {
-    wxConfigBase* cfg = wxConfigBase::Get(false);
-    if (!cfg || klic.empty()) return CsvMapovani{};
-    const wxString text = cfg->Read("VypisCsv/" + klic, wxString());
+    if (klic.empty()) return CsvMapovani{};
+    std::unique_ptr<wxFileConfig> vlastni;
+    const wxString text = nastaveni(vlastni)->Read("VypisCsv/" + klic, wxString());
     return text.empty() ? CsvMapovani{} : CsvMapovani::fromString(text);
 }
 
 void ulozitMapovani(const wxString& klic, const CsvMapovani& mapovani) {
-    wxConfigBase* cfg = wxConfigBase::Get(false);
-    if (!cfg || klic.empty()) return;
+    if (klic.empty()) return;
+    std::unique_ptr<wxFileConfig> vlastni;
+    wxConfigBase* cfg = nastaveni(vlastni);
     cfg->Write("VypisCsv/" + klic, mapovani.toString());
     cfg->Flush();
 }

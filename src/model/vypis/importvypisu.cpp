@@ -1,5 +1,7 @@
 #include "importvypisu.h"
 
+#include <wx/ffile.h>
+#include <wx/log.h>
 #include <wx/regex.h>
 
 #include <map>
@@ -88,6 +90,29 @@ double kurzPohybu(DbModel& model, int menaid, const wxDateTime& datum, double na
 
 }  // namespace
 
+bool nacistSoubor(const wxString& path, std::string* bytes, wxString* zprava) {
+    wxFFile f;
+    {
+        wxLogNull ticho;  // the message below says it in Czech
+        f.Open(path, "rb");
+    }
+    if (!f.IsOpened()) {
+        *zprava = u8("Soubor výpisu nelze otevřít: ") + path;
+        return false;
+    }
+    const wxFileOffset delka = f.Length();
+    if (delka < 0 || static_cast<size_t>(delka) > MAX_VELIKOST) {
+        *zprava = u8("Soubor výpisu je příliš velký");
+        return false;
+    }
+    bytes->resize(static_cast<size_t>(delka));
+    if (delka > 0 && f.Read(&(*bytes)[0], bytes->size()) != bytes->size()) {
+        *zprava = u8("Soubor výpisu nelze přečíst: ") + path;
+        return false;
+    }
+    return true;
+}
+
 bool jeCsv(const std::string& bytes) { return !jeGpc(bytes) && !jeCamt053(bytes); }
 
 CteniVypisu cistVypis(const std::string& bytes, const CsvMapovani& mapovani) {
@@ -117,7 +142,9 @@ wxString znackaPohybu(const Pohyb& p, const wxString& klic) {
     return "[" + klic + (p.protiucet.empty() ? wxString() : u8(" účet:") + bezMezer(p.protiucet)) + "]";
 }
 
-wxString kontrolaUctu(const Banka& banka, const Vypis& v) {
+wxString kontrolaUctu(const Banka& banka, const Vypis& v, const wxString& menaUctu) {
+    if (!v.mena.empty() && !menaUctu.empty() && v.mena.Upper() != menaUctu.Upper())
+        return wxString::Format(u8("Výpis je v měně %s, účet %s je veden v %s"), v.mena, banka.zkratka(), menaUctu);
     if (v.ucet.empty()) return wxString();
     const wxString vlastni = cisloUctuBanky(banka);
     const wxString iban = normalizovatUcet(banka.iban());

@@ -19,6 +19,10 @@
 
 namespace vypis {
 
+// The bytes of a statement file; false with the message to show when it cannot be read or is
+// larger than any statement.
+bool nacistSoubor(const wxString& path, std::string* bytes, wxString* zprava);
+
 // Reads a file in the format its content shows: ABO/GPC, camt.053, or else CSV by the mapping
 // given (a CSV without a valid mapping is refused with a message saying so).
 CteniVypisu cistVypis(const std::string& bytes, const CsvMapovani& mapovani);
@@ -48,9 +52,10 @@ struct Import {
 wxString znackaPohybu(const Pohyb& pohyb, const wxString& klic);
 wxString klicPohybu(const Pohyb& pohyb, int poradi);
 
-// The message when the statement is for another account than the chosen one; empty when they
-// agree or either account number is unknown.
-wxString kontrolaUctu(const Banka& banka, const Vypis& vypis);
+// The message when the statement is for another account than the chosen one, or in another
+// currency than the account's (`menaUctu`, its ISO code); empty when they agree or what is to
+// be compared is unknown.
+wxString kontrolaUctu(const Banka& banka, const Vypis& vypis, const wxString& menaUctu = wxString());
 
 // Pairs every movement of the statements for the account: movements already imported are
 // marked and skipped, sure proposals (VS and amount, a known account and amount) are set to be
