@@ -6,10 +6,14 @@
 #include <wx/listctrl.h>
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
+#include <wx/toolbar.h>
 
 #include "CsvMapovaniDialog.h"
 #include "VypisImportDialog.h"
+#include "book/lxbook.h"
+#include "book/lxbookpage.h"
 #include "booktest.h"
+#include "navigation.h"
 #include "lxsettings.h"
 
 namespace {
@@ -170,4 +174,20 @@ TEST_F(VypisImport, ACsvStatementIsReadByTheMappingSavedForTheAccount) {
     EXPECT_TRUE(dialog.list()->IsItemChecked(0));
     ASSERT_TRUE(fillAndOk(dialog, [](wxDialog*) {}).closed);
     EXPECT_TRUE(m_model->isFakturaUhrazena(a));
+}
+
+// Only the bank page offers the import among its tools.
+TEST_F(VypisImport, TheBankPageOffersTheImport) {
+    auto maImport = [this](int nav) {
+        for (wxWindow* child : m_book->page(nav)->GetChildren())
+            if (auto* toolbar = wxDynamicCast(child, wxToolBar))
+                for (size_t i = 0; i < toolbar->GetToolsCount(); ++i)
+                    if (toolbar->GetToolByPos(static_cast<int>(i))->GetLabel() == u8("Import výpisu")) return true;
+        return false;
+    };
+    m_book->createPages();
+    ASSERT_NE(m_book->page(NAV_BANKA), nullptr);
+    EXPECT_TRUE(maImport(NAV_BANKA));
+    EXPECT_FALSE(maImport(NAV_POKLADNA));
+    EXPECT_FALSE(maImport(NAV_DENIK));
 }
