@@ -3,6 +3,7 @@
 // non-negative amount. The fuzz drivers of the three readers check it after each input.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -23,8 +24,12 @@ inline void zkontrolovatCteni(const CteniVypisu& c) {
             }
     }
     if (evidaFuzzOutcome) {
-        std::string outcome = c.ok ? "ok/" + std::to_string(c.vypisy.size())
-                                   : std::string(c.zprava.BeforeFirst(':').utf8_str()).substr(0, 40);
+        // The kind of refusal without its line number or quoted value, so that the corpus
+        // grows with new behaviour rather than with every new line number.
+        wxString druh = c.zprava.BeforeFirst(wxUniChar(0x201E));
+        for (const char* cislice : {"0", "1", "2", "3", "4", "5", "6", "7", "8", "9"}) druh.Replace(cislice, "");
+        const std::string outcome = c.ok ? "ok/" + std::to_string(std::min<size_t>(c.vypisy.size(), 3))
+                                         : std::string(druh.utf8_str());
         evidaFuzzOutcome(outcome.data(), outcome.size());
     }
 }
