@@ -28,6 +28,9 @@
 //                           [--datum D] [--k ID]
 //                           the EC sales list of the period (a follow-up list starts from the
 //                           saved list ID, or the one saved for the period)
+//   evida-cli import-vypis FILE STATEMENT [--ucet CODE] [--jen-navrh]
+//                           a bank statement paired with the open documents; the sure payments
+//                           are written unless only the proposals are asked for
 //   evida-cli kontrola FILE --rok Y (--mesic M | --ctvrtleti Q)
 //                           the VAT return against the control statement of the period: the
 //                           differences with their documents and the documents the statement
@@ -49,6 +52,7 @@
 #include "denikimport.h"
 #include "download.h"
 #include "evidacli_export.h"
+#include "evidacli_vypis.h"
 #include "fakturace/souhrndokladu.h"
 #include "lxformat.h"
 #include "lxsettings.h"
@@ -86,7 +90,7 @@ int usage() {
                                 "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
                                 "  stav SOUBOR            stav pokladen a bankovních účtů\n"
                                 "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n") +
-             evidacli::exportUsage() + "\n" + evidacli::kontrolaUsage() + "\n" +
+             evidacli::exportUsage() + "\n" + evidacli::kontrolaUsage() + "\n" + evidacli::importVypisuUsage() + "\n" +
                                 wxString::FromUTF8(
                                 "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
@@ -274,6 +278,14 @@ int main(int argc, char** argv) {
         model.initModel();
         if (!open(model, wxFileName(args[1]).GetAbsolutePath())) return 1;
         const int status = evidacli::kontrolaPodani(model, std::vector<wxString>(args.begin() + 2, args.end()));
+        return status == 2 ? usage() : status;
+    }
+    if (command == "import-vypis" && args.size() >= 3) {
+        MessagePrinter printer;
+        DbModel model(&printer);
+        model.initModel();
+        if (!open(model, wxFileName(args[1]).GetAbsolutePath())) return 1;
+        const int status = evidacli::importVypisu(model, std::vector<wxString>(args.begin() + 2, args.end()));
         return status == 2 ? usage() : status;
     }
     if (args.size() != (command == "rates" || command == "import" ? 3u : 2u)) return usage();

@@ -63,7 +63,8 @@ class evidaFrame : public wxFrame {
         ID_SKLADY,
         ID_DATUM,
         ID_EDITOR_SABLON,
-        ID_AKTUALIZACE
+        ID_AKTUALIZACE,
+        ID_IMPORT_VYPISU
     };
 
     // Builds the window and loads the current company (the first-run wizard when there is

@@ -21,6 +21,7 @@
 #include "PrijmyVydajeDialog.h"
 #include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
+#include "VypisImportDialog.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
 #include "evidaframe.h"
@@ -159,6 +160,7 @@ void evidaFrame::createMenuBar() {
     ucetnictvi->Append(ID_DENIK, u8("Peněžní deník"));
     ucetnictvi->Append(ID_POKLADNA, u8("Pokladna"));
     ucetnictvi->Append(ID_BANKA, u8("Banka"));
+    ucetnictvi->Append(ID_IMPORT_VYPISU, u8("Import bankovního výpisu"), u8("Načíst bankovní výpis a spárovat platby s doklady"));
     ucetnictvi->AppendSeparator();
     ucetnictvi->Append(ID_PREDKONTACE, u8("Předkontace"));
     ucetnictvi->AppendSeparator();
@@ -223,6 +225,7 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onSmazatObdobi, this, ID_OBDOBI_SMAZAT);
     Bind(wxEVT_MENU, &evidaFrame::onAdresar, this, ID_ADRESAR);
     Bind(wxEVT_MENU, &evidaFrame::onStavUctu, this, ID_STAV_UCTU);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { VypisImportDialog(this).ShowModal(); }, ID_IMPORT_VYPISU);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PredkontacesDialog>(this, m_model.get()); }, ID_PREDKONTACE);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<FauhradyDialog>(this, m_model.get()); }, ID_UHRADY);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<OdpiskupinyDialog>(this, m_model.get()); },

@@ -175,6 +175,10 @@ Ctecka::Ctecka(const wxString& text) : m_text(text), m_it(text.begin()), m_sep(d
     if (m_it != m_text.end() && *m_it == 0xFEFF) ++m_it;
 }
 
+Ctecka::Ctecka(const wxString& text, wxUniChar oddelovac) : m_text(text), m_it(text.begin()), m_sep(oddelovac) {
+    if (m_it != m_text.end() && *m_it == 0xFEFF) ++m_it;
+}
+
 Ctecka::Stav Ctecka::dalsi(Zaznam* zaznam) {
     zaznam->radek = m_radek;
     zaznam->pole.clear();

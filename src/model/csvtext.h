@@ -42,6 +42,8 @@ struct Zaznam {
 class Ctecka {
  public:
     explicit Ctecka(const wxString& text);
+    // The same with the separator given, for files whose layout the user has described.
+    Ctecka(const wxString& text, wxUniChar oddelovac);
     enum class Stav { ZAZNAM, KONEC, CHYBA };
     // The next record; on CHYBA `zaznam->radek` is the line of the fault and chyba() says it.
     Stav dalsi(Zaznam* zaznam);

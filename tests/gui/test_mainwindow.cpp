@@ -94,7 +94,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
          "období}|Adresář|Daně{Přehled příjmů a výdajů|Přehled majetku a závázků|Daň z příjmů|DPH{Přiznání k "
          "DPH|Kontrolní hlášení DPH|Souhrnné hlášení DPH|Kontrola podání|Seznam dokladů k DPH}|Uložená "
          "přiznání}|Zálohovat data|Obnovit data ze zálohy|Konec\tCtrl-Q"},
-        {"Úče&tnictví", "Peněžní deník|Pokladna|Banka|Předkontace|Stav pokladen a bankovních účtů"},
+        {"Úče&tnictví", "Peněžní deník|Pokladna|Banka|Import bankovního výpisu|Předkontace|Stav pokladen a bankovních účtů"},
         {"&Fakturace", "Faktury vydané|Faktury přijaté|Pohledávky|Závazky|Úhrady|Seznam odeslaných faktur|Členění DPH"},
         {"Ma&jetek", "Kniha majetku|Odpisové skupiny"},
         {"Sk&lad", "Kniha zásob|Inventury|Sklady"},

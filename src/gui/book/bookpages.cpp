@@ -8,6 +8,7 @@
 #include "PrijemVydejDialog.h"
 #include "ZavpohDialog.h"
 #include "UhradaDialog.h"
+#include "VypisImportDialog.h"
 #include "UhradyDialog.h"
 #include "bookshapes.h"
 #include "denikexport.h"
@@ -258,6 +259,7 @@ lxBookPage* create(wxWindow* parent, int nav) {
             created->setCsvExport([created](const wxString& path, lxcsv::Kodovani kodovani, wxString* error) {
                 return exportDenik(created, path, kodovani, error);
             });
+            if (nav == NAV_BANKA) addVypisImportCommand(created);
             break;
         case NAV_FAKTURY_VYDANE:
         case NAV_FAKTURY_PRIJATE:

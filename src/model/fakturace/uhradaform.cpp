@@ -46,7 +46,7 @@ bool zapisCast(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& fo
     d.setCastka(domaci ? cast : cast * kurz);
     d.setCastkacizi(domaci ? 0.0 : cast);
     d.setKurz(kurz);
-    d.setReference(doklad.cislo);
+    d.setReference(form.reference.empty() ? doklad.cislo : form.reference);
     d.setPausal(pausal ? form.pausal : 0);
     d.setMenaid(doklad.menaid);
     d.setPredkontaceid(predkontaceid);
@@ -72,7 +72,7 @@ bool zapisCast(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& fo
 
 // The written payment in one transaction: the base (or whole) part, then the VAT part.
 std::vector<int> zapis(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form, const wxString& radaForm,
-                       bool rozdelit) {
+                       bool rozdelit, bool oznamit = true) {
     const wxString rada = radaForm.empty() ? denikRada(doklad.prijem(), form.banka) : radaForm;
     const double zaplaceno = doklad.menaid == 1 ? form.castka : form.castkacizi;
     const castky::Rozdeleni r =
@@ -97,7 +97,7 @@ std::vector<int> zapis(DbModel& model, const PlacenyDoklad& doklad, const Uhrada
         return {};
     }
     // The journal, the register and the document's paid state all change.
-    model.fireUpdated(NAV_ALL);
+    if (oznamit) model.fireUpdated(NAV_ALL);
     return ids;
 }
 
@@ -195,6 +195,10 @@ std::vector<int> writeUhradaPlatce(DbModel& model, const PlacenyDoklad& doklad, 
 std::vector<int> writeUhradaNeplatce(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form,
                                      const wxString& rada) {
     return zapis(model, doklad, form, rada, false);
+}
+
+std::vector<int> zapisUhradu(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form) {
+    return zapis(model, doklad, form, wxString(), platceUhrada(model, doklad), false);
 }
 
 wxString ulozitUhradu(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form, std::vector<int>* denikIds,

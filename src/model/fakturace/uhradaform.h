@@ -62,6 +62,7 @@ struct UhradaForm {
     double castkacizi = 0;   // "Částka v EUR" for a document in a foreign currency
     double kurz = 1;
     int pausal = 0;          // "Paušální výdaj %", income of a flat-rate company
+    wxString reference;      // the entries' reference; empty takes the document's number
 };
 
 // The field a failed check names.
@@ -89,6 +90,10 @@ std::vector<int> writeUhradaPlatce(DbModel& model, const PlacenyDoklad& doklad, 
                                    const wxString& rada = wxString());
 std::vector<int> writeUhradaNeplatce(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form,
                                      const wxString& rada = wxString());
+// Writes a payment that passed uhradaValidation by the right writer inside the caller's open
+// transaction and without notifying, for imports that store many payments all or nothing.
+// Returns the written entries; empty when a statement failed, and the caller then rolls back.
+std::vector<int> zapisUhradu(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form);
 // Checks the form and writes the payment by the right writer; the message to show, empty on
 // success. `denikIds` receives the written entries.
 wxString ulozitUhradu(DbModel& model, const PlacenyDoklad& doklad, const UhradaForm& form,
