@@ -12,6 +12,7 @@
 #include "majetekzavazkyprint.h"
 #include "printchoice.h"
 #include "prompts.h"
+#include "rokchoice.h"
 
 namespace {
 
@@ -26,11 +27,7 @@ DbModel* openModel() {
 
 MajetekZavazkyDialog::MajetekZavazkyDialog(wxWindow* parent)
     : wxDialog(parent, wxID_ANY, u8("Přehled majetku a závázků")) {
-    DbModel* model = openModel();
-    if (model) m_roky = model->getObdobiAsStrings(0);
-    m_rok = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, m_roky, 0, wxDefaultValidator, "rok");
-    const int current = model ? m_roky.Index(wxString::Format("%d", model->currentRok())) : wxNOT_FOUND;
-    m_rok->SetSelection(current != wxNOT_FOUND ? current : (m_roky.empty() ? wxNOT_FOUND : 0));
+    m_rok = rokChoice(this);
 
     auto* top = new wxBoxSizer(wxVERTICAL);
     auto* volby = new wxBoxSizer(wxHORIZONTAL);
@@ -75,12 +72,7 @@ MajetekZavazkyDialog::MajetekZavazkyDialog(wxWindow* parent)
     nacist();
 }
 
-int MajetekZavazkyDialog::rok() const {
-    long rok = 0;
-    const int sel = m_rok->GetSelection();
-    if (sel == wxNOT_FOUND || !m_roky[sel].ToLong(&rok)) return 0;
-    return static_cast<int>(rok);
-}
+int MajetekZavazkyDialog::rok() const { return vybranyRok(m_rok); }
 
 void MajetekZavazkyDialog::nacist() {
     DbModel* model = openModel();

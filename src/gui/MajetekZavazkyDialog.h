@@ -25,7 +25,6 @@ class MajetekZavazkyDialog : public wxDialog {
     int rok() const;
 
     wxChoice* m_rok = nullptr;
-    wxArrayString m_roky;
     struct Pole {
         const MajetekZavazkyRadek* radek;
         lxAmountCtrl* zacatek;

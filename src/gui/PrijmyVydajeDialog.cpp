@@ -15,6 +15,7 @@
 #include "printchoice.h"
 #include "prijmyvydajeprint.h"
 #include "prompts.h"
+#include "rokchoice.h"
 
 namespace {
 
@@ -56,10 +57,7 @@ PrijmyVydajeDialog::PrijmyVydajeDialog(wxWindow* parent)
     : wxDialog(parent, wxID_ANY, u8("Přehled příjmů a výdajů"), wxDefaultPosition, wxDefaultSize,
                wxDEFAULT_DIALOG_STYLE | wxRESIZE_BORDER) {
     DbModel* model = openModel();
-    if (model) m_roky = model->getObdobiAsStrings(0);
-    m_rok = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, m_roky, 0, wxDefaultValidator, "rok");
-    const int current = model ? m_roky.Index(wxString::Format("%d", model->currentRok())) : wxNOT_FOUND;
-    m_rok->SetSelection(current != wxNOT_FOUND ? current : (m_roky.empty() ? wxNOT_FOUND : 0));
+    m_rok = rokChoice(this);
     m_pausal = new wxCheckBox(this, wxID_ANY, u8("Použít paušální výdaje"), wxDefaultPosition, wxDefaultSize, 0,
                               wxDefaultValidator, "pausal");
     m_pausal->SetValue(model && model->isFirmaPausal());
@@ -96,12 +94,7 @@ PrijmyVydajeDialog::PrijmyVydajeDialog(wxWindow* parent)
     nacist();
 }
 
-int PrijmyVydajeDialog::rok() const {
-    long rok = 0;
-    const int sel = m_rok->GetSelection();
-    if (sel == wxNOT_FOUND || !m_roky[sel].ToLong(&rok)) return 0;
-    return static_cast<int>(rok);
-}
+int PrijmyVydajeDialog::rok() const { return vybranyRok(m_rok); }
 
 void PrijmyVydajeDialog::nacist() {
     m_list->DeleteAllItems();

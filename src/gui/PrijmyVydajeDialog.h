@@ -27,6 +27,5 @@ class PrijmyVydajeDialog : public wxDialog {
     wxChoice* m_rok = nullptr;
     wxCheckBox* m_pausal = nullptr;
     wxListCtrl* m_list = nullptr;
-    wxArrayString m_roky;
     PrijmyVydaje m_prehled;
 };
