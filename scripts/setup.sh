@@ -8,7 +8,9 @@ PACKAGES="build-essential cmake pkg-config git
 libwxgtk3.2-dev libwxsqlite3-3.2-dev libcurl4-openssl-dev libqrcodegencpp-dev libcairo2-dev
 libicu-dev libxml2-dev libxml2-utils
 libgtest-dev libgmock-dev libbenchmark-dev wx3.2-i18n
-xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3 locales"
+libssl-dev openssl python3-aiosmtpd
+xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3 locales
+dpkg-dev fakeroot file lintian desktop-file-utils appstream"
 
 missing=""
 for p in $PACKAGES; do
