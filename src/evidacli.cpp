@@ -2,6 +2,8 @@
 // checking files. It opens files exactly as the program does, without a display.
 //
 //   evida-cli create FILE   a new company database with the placeholder company
+//   evida-cli demo FILE     a new file with the demo company: a VAT payer with this year's and
+//                           last year's records in every book
 //   evida-cli check FILE    open, check and repair; print the repair report if any
 //   evida-cli info FILE     version and the row count of every table
 //   evida-cli rates FILE DATE
@@ -48,6 +50,7 @@
 #include <vector>
 
 #include "companysetup.h"
+#include "demo/ukazka.h"
 #include "dbmodel.h"
 #include "denikimport.h"
 #include "download.h"
@@ -84,6 +87,7 @@ class QuietLog : public wxLog {
 int usage() {
     printErr(wxString::FromUTF8("Použití: evida-cli [--verbose] PŘÍKAZ SOUBOR ...\n"
                                 "  create SOUBOR          nová databáze firmy\n"
+                                "  demo SOUBOR            nová databáze s ukázkovou firmou\n"
                                 "  check SOUBOR           kontrola celistvosti, oprava a zpráva o opravě\n"
                                 "  info SOUBOR            verze a počty řádků tabulek\n"
                                 "  rates SOUBOR DATUM     kurzy ČNB ke dni (DATUM jako RRRR-MM-DD)\n"
@@ -109,6 +113,19 @@ int create(DbModel& model, const wxString& path) {
     const Firma& f = model.firma();
     print(wxString::Format(wxString::FromUTF8("Vytvořena databáze %s: %s, IČ: %s, období %d"), path, f.nazev(), f.ic(),
                            model.currentRok()));
+    return 0;
+}
+
+// The demo company of this year; an existing file is refused and left as it was.
+int demo(DbModel& model, const wxString& path) {
+    const int rok = lxutils::today().GetYear();
+    wxString chyba;
+    if (!ukazka::vytvor(model, path, rok, &chyba)) {
+        printErr(chyba);
+        return 1;
+    }
+    print(wxString::Format(wxString::FromUTF8("Vytvořena ukázková firma %s: %s, období %d a %d"), path,
+                           model.firma().nazev(), rok - 1, rok));
     return 0;
 }
 
@@ -295,6 +312,7 @@ int main(int argc, char** argv) {
     DbModel model(&printer);
     model.initModel();
     if (command == "create") return create(model, path);
+    if (command == "demo") return demo(model, path);
     if (command == "check") return check(model, printer, path);
     if (command == "info") return open(model, path) ? info(model) : 1;
     if (command == "rates") return rates(model, path, args[2]);
