@@ -193,7 +193,7 @@ Plan plan(int rok) {
     p.zeme = u8("Česká republika");
     p.pokladnaEur = POK_EUR;
     p.banka = BANKA;
-    p.cisloUctu = "2801234567";
+    p.cisloUctu = "2801234578";
     p.kodBanky = "2010";
     p.kontakty = {
         kontakt(NOVAK, "45678901", "CZ45678901", "objednavky@novakstavby.cz", "Cejl", "45", "Brno", "602 00"),
