@@ -31,7 +31,7 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
 // One booking step: an empty text is success, anything else the reason it failed.
 class Zapis {
-   public:
+ public:
     Zapis(DbModel& model, const Plan& plan) : m_model(model), m_plan(plan) {}
 
     wxString firma();
@@ -43,7 +43,7 @@ class Zapis {
     wxString jizdy();
     wxString podani();
 
-   private:
+ private:
     wxString pohyb(const Pohyb& p);
     wxString doklad(const Doklad& d);
     wxString platba(const DokladForm& form, const Platba& p);
@@ -58,8 +58,9 @@ wxString Zapis::firma() {
     const Plan& p = m_plan;
     // As the new-company wizard stores it: the address first, then the company row.
     if (!m_model.addAdresa(Adresa(1, p.ulice, p.cp, p.misto, p.psc, p.zeme))) return u8("Adresu firmy nelze uložit");
-    const Firma firma(p.nazev, p.ic, p.dic, u8("Společnost zapsaná v obchodním rejstříku u Městského soudu v Praze, "
-                                                "oddíl C, vložka 123456"),
+    const Firma firma(p.nazev, p.ic, p.dic,
+                      u8("Společnost zapsaná v obchodním rejstříku u Městského soudu v Praze, "
+                         "oddíl C, vložka 123456"),
                       true, false, p.telefon, p.email, p.www, wxString(), wxString(), 1);
     if (!m_model.setFirma(firma)) return u8("Údaje firmy nelze uložit");
     if (!m_model.addObdobi(Obdobi(p.rok, true))) return u8("Období nelze uložit");

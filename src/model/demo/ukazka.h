@@ -129,8 +129,8 @@ struct Plan {
     wxString vozidloRz, vozidloJmeno, ridic;
     double spotreba = 0;
     std::vector<Jizda> jizdy;
-    std::vector<Rok> roky;                // the previous year first, then the current one
-    std::vector<int> podaneMesice;       // months of the current year with saved VAT filings
+    std::vector<Rok> roky;          // the previous year first, then the current one
+    std::vector<int> podaneMesice;  // months of the current year with saved VAT filings
 };
 
 // The name of the demo company.

@@ -13,6 +13,9 @@ wxDateTime den(int rok, int mesic, int den, int hodina = 0, int minuta = 0) {
                       static_cast<wxDateTime::wxDateTime_t>(hodina), static_cast<wxDateTime::wxDateTime_t>(minuta));
 }
 
+// The basic VAT rate of the documents.
+constexpr int ZAKLADNI = 21;
+
 // Stock items by their index in Plan::zasoby.
 constexpr int TONER = 0;
 constexpr int PAPIR = 1;
@@ -73,7 +76,9 @@ Polozka polozka(const char* popis, const char* mj, double pocet, double cenamj, 
     return Polozka{u8(popis), u8(mj), pocet, cenamj, sazba, zasoba};
 }
 
-Platba banka(const wxDateTime& datum, double castka, double kurz = 1) { return Platba{datum, true, BANKA, castka, kurz}; }
+Platba banka(const wxDateTime& datum, double castka, double kurz = 1) {
+    return Platba{datum, true, BANKA, castka, kurz};
+}
 Platba hotove(const wxDateTime& datum, double castka) { return Platba{datum, false, POK, castka, 1}; }
 
 Kontakt kontakt(const char* nazev, const char* ic, const char* dic, const char* email, const char* ulice,
@@ -96,23 +101,24 @@ Rok predchoziRok(int r) {
     };
 
     Doklad materialy = doklad(D::FAKTURA_PRIJATA, den(r, 9, 1), 14, SERVIS, "Nákup tonerů a papíru", "V002", "R40,41",
-                              {polozka("Toner HP 305A", "ks", 20, 1500, 21, TONER),
-                               polozka("Papír A4, balík 500 listů", "bal", 100, 95, 21, PAPIR)});
+                              {polozka("Toner HP 305A", "ks", 20, 1500, ZAKLADNI, TONER),
+                               polozka("Papír A4, balík 500 listů", "bal", 100, 95, ZAKLADNI, PAPIR)});
     materialy.platby = {banka(den(r, 9, 10), 47795)};
 
     Doklad nabytek = doklad(D::FAKTURA_PRIJATA, den(r, 10, 10), 14, SERVIS, "Kancelářský nábytek", "V008", "R40,41",
-                            {polozka("Kancelářský stůl a židle", "ks", 1, 18000, 21)});
+                            {polozka("Kancelářský stůl a židle", "ks", 1, 18000, ZAKLADNI)});
     nabytek.platby = {banka(den(r, 10, 20), 21780)};
 
     Doklad vyvoj = doklad(D::FAKTURA_VYDANA, den(r, 11, 5), 14, NOVAK, "Vývoj webové aplikace", "P002", "R1,2",
-                          {polozka("Programování webové aplikace", "hod", 40, 1200, 21)});
+                          {polozka("Programování webové aplikace", "hod", 40, 1200, ZAKLADNI)});
     vyvoj.platby = {banka(den(r, 11, 18), 58080)};
 
     rok.doklady = {materialy, nabytek, vyvoj};
     return rok;
 }
 
-Rok aktualniRok(int r, int sazba) {
+Rok aktualniRok(int r) {
+    const int sazba = ZAKLADNI;
     using D = DruhDokladu;
     Rok rok;
     rok.rok = r;
@@ -226,7 +232,7 @@ Plan plan(int rok) {
         {den(rok, 3, 20, 13), den(rok, 3, 20, 14, 30), 13186, 13232, u8("Praha – Beroun – Praha"),
          u8("Nákup materiálu")},
     };
-    p.roky = {predchoziRok(rok - 1), aktualniRok(rok, 21)};
+    p.roky = {predchoziRok(rok - 1), aktualniRok(rok)};
     p.podaneMesice = {1, 2, 3};
     return p;
 }
