@@ -11,6 +11,7 @@
 #include "VypisImportDialog.h"
 #include "UhradyDialog.h"
 #include "bookshapes.h"
+#include "fakturatisk.h"
 #include "denikexport.h"
 #include "lxcsv.h"
 #include "lxbookpage.h"
@@ -204,6 +205,11 @@ void addDokladCommands(lxBookPage* page) {
     if (!isFakturaStranka(page->navigation()))
         page->addRowCommand(u8("Tisk dokladu"), u8("Vytisknout vybraný doklad"), wxART_PRINT,
                             [page](int id) { tiskZavpoh(page, id); }, false);
+    // An issued invoice prints in the program's layout or through a template, to the preview
+    // (and from there to a printer) or a PDF.
+    if (page->navigation() == NAV_FAKTURY_VYDANE)
+        page->addRowCommand(u8("Tisk faktury"), u8("Vytisknout, zobrazit nebo uložit vybranou fakturu"), wxART_PRINT,
+                            [page](int id) { tiskFaktury(page, id); });
 }
 
 }  // namespace
