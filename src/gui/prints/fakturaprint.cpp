@@ -404,6 +404,7 @@ ZavpohDoklad doklad(const FakturaTisk& d, bool platce) {
         if (!d.banka.cislouctu().empty() && d.banka.cislouctu() != "0")
             z.ucet = d.banka.cislouctu() + "/" + d.banka.kodbanky();
         z.iban = d.banka.iban();
+        z.bic = d.banka.bic();
     }
     z.mena = d.kodMena.empty() ? wxString("CZK") : d.kodMena;
     for (size_t i = 0; i < d.polozky.size(); ++i) {

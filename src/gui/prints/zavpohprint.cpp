@@ -100,12 +100,10 @@ void sazbaDokladu(Document& doc, const ZavpohDoklad& d, const wxString& title) {
     left("Datum splatnosti:", datum(d.splatnost));
     if (d.platce) left("DUZP:", datum(d.duzp));
     right("Forma úhrady:", d.uhrada);
-    if (!d.ucet.empty()) {
-        right("Bankovní účet:", d.ucet);
-        if (!d.iban.empty()) right("IBAN:", d.iban);
-    } else {
-        right("Pokladna / účet:", d.registr);
-    }
+    if (!d.ucet.empty()) right("Bankovní účet:", d.ucet);
+    if (!d.iban.empty()) right("IBAN:", d.iban);
+    if (!d.bic.empty()) right("BIC (SWIFT):", d.bic);
+    if (d.ucet.empty() && d.iban.empty() && !d.registr.empty()) right("Pokladna / účet:", d.registr);
     right("Variabilní symbol:", d.vs);
     if (!d.ks.empty()) right("Konstantní symbol:", d.ks);
     if (!d.ss.empty()) right("Specifický symbol:", d.ss);

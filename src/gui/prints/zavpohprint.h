@@ -62,6 +62,7 @@ struct ZavpohDoklad {
     wxString nadpis;  // the title; empty gives nadpis() of the document
     wxString ucet;    // "number/bank code" of the account it is paid to
     wxString iban;
+    wxString bic;
     wxString ks;
     wxString ss;
     bool maZaokrouhleni = false;
