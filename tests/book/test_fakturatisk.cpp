@@ -23,9 +23,7 @@ class InvoicePrint : public BookTest {
  protected:
     void SetUp() override {
         BookTest::SetUp();
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
+        nastavPlatceDph();
         lxSettings::instance()->setDatum(iso("2024-06-10"));
         lxSettings::instance()->setFakturaSablona(wxString());
         Banka banka = m_model->getBanka(1);

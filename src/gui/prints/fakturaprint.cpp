@@ -18,8 +18,12 @@ const wxString CHYBI = " ";
 wxString datum(const wxDateTime& d) { return d.IsValid() ? d.Format("%x") : CHYBI; }
 wxString castka(double value) { return wxString::Format("%.2f", value); }
 
-void nahrad(wxString& line, const char* key, const wxString& value) {
-    if (line.Contains(key)) line.Replace(key, value);
+// Every occurrence of each placeholder in the line becomes its value.
+wxString nahrad(const wxString& text, std::initializer_list<std::pair<const char*, wxString>> hodnoty) {
+    wxString line = text;
+    for (const auto& [key, value] : hodnoty)
+        if (line.Contains(key)) line.Replace(key, value);
+    return line;
 }
 
 bool maPolozky(const TableRowElement& row) {
@@ -175,58 +179,52 @@ FakturaTisk ukazkovaFaktura() {
 
 wxString parseFirmaLine(const wxString& text, const FakturaTisk& d) {
     if (!text.Contains("{firma-")) return text;
-    wxString line = text;
     const Firma& f = d.firma;
     const Adresa& a = d.firmaAdresa;
     const bool adr = d.maFirmaAdresu;
-    nahrad(line, "{firma-nazev}", f.nazev());
-    nahrad(line, "{firma-ulice}", adr ? wxString::Format("%s %s", a.ulice(), a.cp()) : CHYBI);
-    nahrad(line, "{firma-misto}", adr ? a.misto() : CHYBI);
-    nahrad(line, "{firma-psc}", adr ? a.psc() : CHYBI);
-    nahrad(line, "{firma-zeme}", adr ? a.zeme() : CHYBI);
-    nahrad(line, "{firma-registrace}", f.registrace());
-    nahrad(line, "{firma-ic}", f.ic());
-    nahrad(line, "{firma-dic}", f.dic());
-    nahrad(line, "{firma-telefon}", f.telefon());
-    nahrad(line, "{firma-email}", f.email());
-    nahrad(line, "{firma-www}", f.www());
-    return line;
+    return nahrad(text, {{"{firma-nazev}", f.nazev()},
+                         {"{firma-ulice}", adr ? wxString::Format("%s %s", a.ulice(), a.cp()) : CHYBI},
+                         {"{firma-misto}", adr ? a.misto() : CHYBI},
+                         {"{firma-psc}", adr ? a.psc() : CHYBI},
+                         {"{firma-zeme}", adr ? a.zeme() : CHYBI},
+                         {"{firma-registrace}", f.registrace()},
+                         {"{firma-ic}", f.ic()},
+                         {"{firma-dic}", f.dic()},
+                         {"{firma-telefon}", f.telefon()},
+                         {"{firma-email}", f.email()},
+                         {"{firma-www}", f.www()}});
 }
 
 wxString parseFakturaLine(const wxString& text, const FakturaTisk& d) {
     if (!text.Contains("{faktura-")) return text;
-    wxString line = text;
     const Faktura& f = d.faktura;
-    nahrad(line, "{faktura-cislo}", f.cislo());
-    nahrad(line, "{faktura-celkem}", castka(f.celkem()));
-    nahrad(line, "{faktura-vystaveni}", datum(f.vystaveni()));
-    nahrad(line, "{faktura-splatnost}", datum(f.splatnost()));
-    nahrad(line, "{faktura-duzp}", datum(f.duzp()));
-    nahrad(line, "{faktura-uhrada}", d.maUhradu ? d.uhrada : CHYBI);
-    nahrad(line, "{faktura-mena}", d.zkratkaMena);
     const bool ucet = d.maUhradu && !d.pokladnou && d.maBanku && !d.banka.cislouctu().empty();
-    nahrad(line, "{faktura-banka}",
-           ucet ? wxString::Format("%s/%s", d.banka.cislouctu(), d.banka.kodbanky()) : CHYBI);
-    nahrad(line, "{faktura-vs}", f.vs());
-    nahrad(line, "{faktura-ks}", f.ks());
-    nahrad(line, "{faktura-ss}", f.ss());
-    return line;
+    return nahrad(text, {{"{faktura-cislo}", f.cislo()},
+                         {"{faktura-celkem}", castka(f.celkem())},
+                         {"{faktura-vystaveni}", datum(f.vystaveni())},
+                         {"{faktura-splatnost}", datum(f.splatnost())},
+                         {"{faktura-duzp}", datum(f.duzp())},
+                         {"{faktura-uhrada}", d.maUhradu ? d.uhrada : CHYBI},
+                         {"{faktura-mena}", d.zkratkaMena},
+                         {"{faktura-banka}",
+                          ucet ? wxString::Format("%s/%s", d.banka.cislouctu(), d.banka.kodbanky()) : CHYBI},
+                         {"{faktura-vs}", f.vs()},
+                         {"{faktura-ks}", f.ks()},
+                         {"{faktura-ss}", f.ss()}});
 }
 
 wxString parseKontaktLine(const wxString& text, const FakturaTisk& d) {
     if (!text.Contains("{kontakt-")) return text;
-    wxString line = text;
     const Kontakt& k = d.kontakt;
     const Adresa& a = d.kontaktAdresa;
     const bool kon = d.maKontakt, adr = d.maKontakt && d.maKontaktAdresu;
-    nahrad(line, "{kontakt-nazev}", kon ? k.nazev() : CHYBI);
-    nahrad(line, "{kontakt-ulice}", adr ? wxString::Format("%s %s", a.ulice(), a.cp()) : CHYBI);
-    nahrad(line, "{kontakt-misto}", adr ? a.misto() : CHYBI);
-    nahrad(line, "{kontakt-psc}", adr ? a.psc() : CHYBI);
-    nahrad(line, "{kontakt-zeme}", adr ? a.zeme() : CHYBI);
-    nahrad(line, "{kontakt-ic}", kon ? k.ic() : CHYBI);
-    nahrad(line, "{kontakt-dic}", kon ? k.dic() : CHYBI);
-    return line;
+    return nahrad(text, {{"{kontakt-nazev}", kon ? k.nazev() : CHYBI},
+                         {"{kontakt-ulice}", adr ? wxString::Format("%s %s", a.ulice(), a.cp()) : CHYBI},
+                         {"{kontakt-misto}", adr ? a.misto() : CHYBI},
+                         {"{kontakt-psc}", adr ? a.psc() : CHYBI},
+                         {"{kontakt-zeme}", adr ? a.zeme() : CHYBI},
+                         {"{kontakt-ic}", kon ? k.ic() : CHYBI},
+                         {"{kontakt-dic}", kon ? k.dic() : CHYBI}});
 }
 
 wxString parseLine(const wxString& line, const FakturaTisk& d) {
@@ -235,24 +233,20 @@ wxString parseLine(const wxString& line, const FakturaTisk& d) {
 }
 
 wxString parsePolozkaLine(const wxString& text, const FaPolozka& p, int sazba, int index) {
-    wxString line = text;
-    nahrad(line, "{polozka-cislo}", wxString::Format("%d", index + 1));
-    nahrad(line, "{polozka-popis}", p.popis());
-    nahrad(line, "{polozka-pocet}", wxString::Format("%.3f", p.pocet()));
-    nahrad(line, "{polozka-mj}", p.mj());
-    nahrad(line, "{polozka-cenamj}", castka(p.cenamj()));
-    nahrad(line, "{polozka-sazba}", wxString::Format("%d", sazba));
-    nahrad(line, "{polozka-dph}", castka(p.dph()));
-    nahrad(line, "{polozka-celkem}", castka(p.celkem()));
-    return line;
+    return nahrad(text, {{"{polozka-cislo}", wxString::Format("%d", index + 1)},
+                         {"{polozka-popis}", p.popis()},
+                         {"{polozka-pocet}", wxString::Format("%.3f", p.pocet())},
+                         {"{polozka-mj}", p.mj()},
+                         {"{polozka-cenamj}", castka(p.cenamj())},
+                         {"{polozka-sazba}", wxString::Format("%d", sazba)},
+                         {"{polozka-dph}", castka(p.dph())},
+                         {"{polozka-celkem}", castka(p.celkem())}});
 }
 
 wxString parseSazbaLine(const wxString& text, int sazba, double zaklad, double dph) {
-    wxString line = text;
-    nahrad(line, "{dph-zaklad}", castka(zaklad));
-    nahrad(line, "{dph-dph}", castka(dph));
-    nahrad(line, "{dph-sazba}", wxString::Format("%d%%", sazba));
-    return line;
+    return nahrad(text, {{"{dph-zaklad}", castka(zaklad)},
+                         {"{dph-dph}", castka(dph)},
+                         {"{dph-sazba}", wxString::Format("%d%%", sazba)}});
 }
 
 namespace {
