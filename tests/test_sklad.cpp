@@ -184,7 +184,7 @@ TEST_F(Sklad2024, MovementChecksNumbersAndDeletion) {
     EXPECT_DOUBLE_EQ(pohyby[2]->cenamj(), 150);  // an issue costs what the method says
     EXPECT_EQ(skladform::smazatPohybDotaz(*pohyby[0], "ks"),
               u8("Opravdu smazat pohyb:\nPR0001\n10.000 ks\nz 01.02.2024 00:00:00?"));
-    ASSERT_TRUE(skladform::smazatPohyb(*m_model, pohyby[0]->id()));
+    ASSERT_EQ(skladform::smazatPohyb(*m_model, pohyby[0]->id()), wxString());
     EXPECT_DOUBLE_EQ(m_model->getZasoba(id).pocet(), 5);
     EXPECT_DOUBLE_EQ(m_model->zasobaNakupniCena(id), 200);
     // The database does not cascade; deleting the item takes its movements itself.
@@ -303,4 +303,51 @@ TEST_F(Sklad2024, StockTakingLocksEarlierInvoiceLines) {
     EXPECT_DOUBLE_EQ(m_model->getZasoba(id).pocet(), 8);
     // A line without stock is not locked.
     EXPECT_EQ(ulozitPolozku(*m_model, jina, radek(-1, 1, 150)), wxString());
+}
+
+// A receipt that later issues need cannot be cut, moved after them or deleted, and an
+// invoice whose new date would put its issue before the goods came is not saved; what was
+// stored stays as it was.
+TEST_F(Sklad2024, ChangesThatUncoverALaterIssueAreRefused) {
+    const int id = zasoba("Matice", FIFO);
+    ASSERT_EQ(pohyb(id, true, "2024-02-01", 10, 100), wxString());
+    const int prijem = m_model->pohybyzasobByZasobaId(id).front()->id();
+    DokladForm vydana = faktura(true);  // dated 2024-04-01
+    ASSERT_EQ(ulozitPolozku(*m_model, vydana, radek(id, 8, 150)), wxString());
+    const wxString nekryto = u8("Stav zásoby %s na skladě je nižší než požadovaný výdej 8.000");
+
+    const struct {
+        const char* nazev;
+        const char* datum;
+        double pocet;
+        const char* stav;
+    } upravy[] = {{"less than the issue takes", "2024-02-01", 5, "5.000"},
+                  {"after the issue", "2024-05-01", 10, "0.000"}};
+    for (const auto& u : upravy) {
+        skladform::PohybForm f;
+        f.id = prijem;
+        f.zasobaid = id;
+        f.prijemka = true;
+        f.datum = isoDatum(u.datum);
+        f.pocet = u.pocet;
+        f.cenamj = 100;
+        EXPECT_EQ(skladform::ulozitPohyb(*m_model, f), wxString::Format(nekryto, u.stav)) << u.nazev;
+    }
+    EXPECT_EQ(skladform::smazatPohyb(*m_model, prijem), wxString::Format(nekryto, "0.000"));
+    const Pohybzasob ulozeny = m_model->getPohybzasob(prijem);
+    EXPECT_DOUBLE_EQ(ulozeny.pocet(), 10);
+    EXPECT_EQ(ulozeny.datum(), isoDatum("2024-02-01"));
+    EXPECT_DOUBLE_EQ(m_model->getZasoba(id).pocet(), 2);
+
+    vydana.vystaveni = vydana.duzp = vydana.dppd = isoDatum("2024-01-15");
+    EXPECT_EQ(ulozitDoklad(*m_model, vydana), wxString::Format(nekryto, "0.000"));
+    EXPECT_EQ(m_model->getFaktura(vydana.id).vystaveni(), isoDatum("2024-04-01"));
+    EXPECT_EQ(m_model->getPohybzasobByFaktura(id, vydana.id).datum(), isoDatum("2024-04-01"));
+    // A later date keeps the issue covered and is saved with its movement.
+    vydana.vystaveni = vydana.duzp = vydana.dppd = isoDatum("2024-03-01");
+    EXPECT_EQ(ulozitDoklad(*m_model, vydana), wxString());
+    EXPECT_EQ(m_model->getPohybzasobByFaktura(id, vydana.id).datum(), isoDatum("2024-03-01"));
+    // A receipt that is not needed still goes.
+    ASSERT_EQ(pohyb(id, true, "2024-03-10", 3, 120), wxString());
+    EXPECT_EQ(skladform::smazatPohyb(*m_model, m_model->pohybyzasobByZasobaId(id).back()->id()), wxString());
 }

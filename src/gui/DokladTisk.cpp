@@ -65,9 +65,7 @@ std::vector<KnihaRadek> radky(const Array& rows, const std::vector<int>& ids, do
 std::vector<wxString> adresa(DbModel& model, int adresaid) {
     const Adresa a = adresaid > 0 ? model.getAdresa(adresaid) : Adresa();
     if (!a.isValid()) return {};
-    const wxString ulice = (a.ulice() + " " + a.cp()).Strip(wxString::both);
-    const wxString misto = (a.psc() + " " + a.misto()).Strip(wxString::both);
-    return {ulice, misto, a.zeme()};
+    return adresniRadky(a);
 }
 
 }  // namespace

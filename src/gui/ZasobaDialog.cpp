@@ -243,6 +243,7 @@ void ZasobaDialog::smazatPohyb() {
     if (!model || id <= 0 || !zmenitelny(id)) return;
     const Pohybzasob p = model->getPohybzasob(id);
     if (!prompts().question(skladform::smazatPohybDotaz(p, model->getZasoba(m_id).mj()), u8("Dotaz"), this)) return;
-    skladform::smazatPohyb(*model, id);
+    const wxString chyba = skladform::smazatPohyb(*model, id);
+    if (!chyba.empty()) prompts().error(chyba, u8("Chyba"), this);
     refreshPohyby();
 }

@@ -17,3 +17,6 @@ std::unique_ptr<DocumentPrint> vyberTiskFaktury(wxWindow* parent, int fakturaId)
 // The invoice as a PDF without a file dialog, for an e-mail attachment: the layout is asked
 // for, the title is "Faktura č. <number>". Empty when cancelled or failed.
 wxString fakturaPdf(wxWindow* parent, int fakturaId);
+
+// The invoice's print from its page: the layout is asked for, then preview or PDF.
+void tiskFaktury(wxWindow* parent, int fakturaId);

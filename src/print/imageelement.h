@@ -5,6 +5,8 @@
 #include <wx/gdicmn.h>
 #include <wx/image.h>
 
+#include <vector>
+
 #include "element.h"
 
 class ImageElement : public Element {
@@ -26,6 +28,9 @@ class ImageElement : public Element {
     bool isSpecialPath() const;
 
     wxString path;
+    // The payment string of a "{qr-platba}" element, filled in when the invoice is printed;
+    // without it the element draws nothing. Not part of the template.
+    wxString qr;
     wxPoint pos;
     int width = 30;
     // Left: the image starts at pos.x; centre: it is centred on it; right: it ends there.
@@ -34,8 +39,14 @@ class ImageElement : public Element {
  private:
     // The picture of a file path, loaded once per path; not OK when it cannot be read.
     const wxImage& image() const;
+    // Modules a side of the QR symbol of `qr`, 0 without one; computed once per text.
+    int qrModules() const;
+    void drawQr(wxDC* dc, double mmFactor, const wxRect2DDouble& box) const;
 
     mutable wxImage m_image;
     mutable wxString m_loadedPath;
     mutable bool m_loaded = false;
+    mutable wxString m_qrFor;
+    mutable std::vector<bool> m_qrModules;
+    mutable int m_qrSize = 0;
 };

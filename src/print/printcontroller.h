@@ -23,6 +23,13 @@ class lxPrintController {
 
     const wxString& printTitle() const { return m_title; }
     lxPrint::Layout& layout() { return m_layout; }
+    // The running header of the program's books: the company on the left, the print's title
+    // on the right, a rule under them.
+    void setBookHeader(const wxString& firma) {
+        m_layout.headerLeftText = firma;
+        m_layout.headerRightText = m_title;
+        m_layout.headerLine = true;
+    }
     const lxPrint::Layout& layout() const { return m_layout; }
 
     // Opens the preview frame (880 x 650, zoom 100 %) and returns it, or shows the message

@@ -70,9 +70,7 @@ void fillDoklad(wxDialog* d, const char* predkontace) {
 class DokladDialogTest : public BookTest {
  protected:
     void platce() {
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
+        nastavPlatceDph();
     }
     // A paid issued invoice of one item, made through the dialog.
     int zaplacenaFaktura() {

@@ -74,9 +74,7 @@ class KontrolaDialogTest : public BookTest {
  protected:
     void SetUp() override {
         BookTest::SetUp();
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
+        nastavPlatceDph();
         m_model->addKontaktSAdresou(Kontakt(-1, u8("Beta s.r.o."), "", "27082440", "CZ27082440", "", true, -1),
                                     Adresa(-1, "", "", "", "", ""));
         m_model->addKontaktSAdresou(Kontakt(-1, u8("Gama"), "", "", "", "", true, -1), Adresa(-1, "", "", "", "", ""));

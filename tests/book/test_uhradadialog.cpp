@@ -19,9 +19,7 @@ class PaymentDialog : public BookTest {
  protected:
     void SetUp() override {
         BookTest::SetUp();
-        Firma firma = m_model->firma();
-        firma.setPlatce(true);
-        ASSERT_TRUE(m_model->setFirma(firma));
+        nastavPlatceDph();
         lxSettings::instance()->setDatum(iso("2024-06-10"));
     }
     // A payer's issued invoice with one item at 21 % (price with VAT), in `menaid` at `kurz`.

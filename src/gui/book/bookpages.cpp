@@ -11,6 +11,7 @@
 #include "VypisImportDialog.h"
 #include "UhradyDialog.h"
 #include "bookshapes.h"
+#include "fakturatisk.h"
 #include "denikexport.h"
 #include "lxcsv.h"
 #include "lxbookpage.h"
@@ -93,6 +94,23 @@ void printDoklady(lxBookPage* page) {
     std::vector<int> ids;
     for (size_t r = 0; r < page->rows().rowCount(); ++r) ids.push_back(page->rows().id(r));
     tiskKnihyDokladu(page, page->navigation(), ids);
+}
+
+// "Tisk" on the issued invoices: with an invoice selected, that invoice or the book.
+void printFaktury(lxBookPage* page) {
+    const int id = page->list()->selectedId();
+    if (page->navigation() == NAV_FAKTURY_VYDANE && id >= 0) {
+        wxArrayString volby;
+        volby.push_back(u8("Vybranou fakturu"));
+        volby.push_back(u8("Knihu vydaných faktur"));
+        const int volba = prompts().singleChoice(u8("Co chcete vytisknout?"), u8("Tisk"), volby, 0, page);
+        if (volba < 0) return;
+        if (volba == 0) {
+            tiskFaktury(page, id);
+            return;
+        }
+    }
+    printDoklady(page);
 }
 
 // The journal's pages export whole entries in the shown order, in the form the journal
@@ -204,6 +222,11 @@ void addDokladCommands(lxBookPage* page) {
     if (!isFakturaStranka(page->navigation()))
         page->addRowCommand(u8("Tisk dokladu"), u8("Vytisknout vybraný doklad"), wxART_PRINT,
                             [page](int id) { tiskZavpoh(page, id); }, false);
+    // An issued invoice prints in the program's layout or through a template, to the preview
+    // (and from there to a printer) or a PDF.
+    if (page->navigation() == NAV_FAKTURY_VYDANE)
+        page->addRowCommand(u8("Tisk faktury"), u8("Vytisknout, zobrazit nebo uložit vybranou fakturu"), wxART_PRINT,
+                            [page](int id) { tiskFaktury(page, id); }, false);
 }
 
 }  // namespace
@@ -265,7 +288,7 @@ lxBookPage* create(wxWindow* parent, int nav) {
         case NAV_FAKTURY_PRIJATE:
             created = page(parent, nav, bookshapes::faktury(nav == NAV_FAKTURY_VYDANE));
             addDokladCommands(created);
-            created->setPrintAction([created] { printDoklady(created); });
+            created->setPrintAction([created] { printFaktury(created); });
             break;
         case NAV_POHLEDAVKY:
         case NAV_ZAVAZKY:

@@ -143,6 +143,12 @@ void lxBookPage::addRowCommand(const wxString& label, const wxString& help, cons
     updateTools();
 }
 
+bool lxBookPage::runRowCommand(const wxString& label) {
+    for (size_t i = 0; i < m_rowCommands.size(); ++i)
+        if (m_rowCommands[i].label == label) return runRowCommand(i);
+    return false;
+}
+
 bool lxBookPage::runRowCommand(size_t index) {
     const int id = m_list->selectedId();
     if (index >= m_rowCommands.size() || id < 0) return false;

@@ -55,6 +55,8 @@ class lxBookPage : public wxPanel {
                        bool naListe = true);
     // Runs the n-th such command on the selected row; false when no row is selected.
     bool runRowCommand(size_t index);
+    // Runs the command with this label; false when there is none or no row is selected.
+    bool runRowCommand(const wxString& label);
 
     // Shows the filter dialog, or applies a filter directly.
     void editFilter();

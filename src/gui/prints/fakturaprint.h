@@ -51,6 +51,8 @@ wxString parseKontaktLine(const wxString& line, const FakturaTisk& data);
 wxString parseLine(const wxString& line, const FakturaTisk& data);  // the three above
 wxString parsePolozkaLine(const wxString& line, const FaPolozka& polozka, int sazba, int index);
 wxString parseSazbaLine(const wxString& line, int sazba, double zaklad, double dph);
+// Moves the elements whose top is at `from` mm or lower down by `by` mm.
+void moveElements(std::vector<Element*>& elements, int from, int by);
 
 // The built-in layouts: both keep their document.
 class FakturaPlatcePrint : public DocumentPrint {

@@ -29,9 +29,7 @@ TextStyle souctovyStyl() { return TextStyle(printFont(8).Bold(), wxColour(0, 0, 
 FullDenikPrint::FullDenikPrint(wxWindow* parent, const wxString& firma, int rok, const std::vector<Sloupec>& sloupce,
                                const std::vector<Radek>& radky)
     : SplitTablePrint(parent, wxString::Format(u8("Peněžní deník %d"), rok)), m_sloupce(sloupce), m_radky(radky) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_layout.paperOrientation = wxLANDSCAPE;
     setTable(&m_denik);
 }

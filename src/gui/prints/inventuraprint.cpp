@@ -11,9 +11,7 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 InventuraPrint::InventuraPrint(wxWindow* parent, const wxString& firma, const InventuraHlavicka& inventura,
                                const std::vector<InventuraTiskRadek>& radky)
     : TablePrint(parent, wxString::Format(u8("Inventura %s"), inventura.cislo)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     wxString nadpis = wxString::Format(u8("Inventura %s ze dne %s, sklad %s"), inventura.cislo,
                                        lxformat::formatDatum(inventura.datum), inventura.sklad);
     if (!inventura.popis.empty()) nadpis += ", " + inventura.popis;
@@ -37,9 +35,7 @@ InventuraPrint::InventuraPrint(wxWindow* parent, const wxString& firma, const In
 KnihaInventurPrint::KnihaInventurPrint(wxWindow* parent, const wxString& firma, int rok,
                                        const std::vector<InventuraHlavicka>& radky)
     : TablePrint(parent, wxString::Format(u8("Kniha inventur %d"), rok)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_kniha.tableTitle.title = m_title;
     for (const char* h : {"Číslo", "Datum", "Sklad", "Popis", "Provedl"}) m_kniha.addCellToHeader(u8(h));
     m_kniha.setColumnWidth(3, 60);

@@ -14,9 +14,7 @@ KnihaDokladuPrint::KnihaDokladuPrint(wxWindow* parent, const wxString& nadpis, c
                                      const wxString& firma, int rok, const std::vector<KnihaRadek>& radky,
                                      const KnihaCelkem& celkem)
     : TablePrint(parent, wxString::Format("%s %d", nadpis, rok)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_layout.paperOrientation = wxLANDSCAPE;
 
     m_kniha.tableTitle.title = m_title;

@@ -12,9 +12,7 @@ wxString castka(double value) { return lxformat::formatCastka(value); }
 ListDenikPrint::ListDenikPrint(wxWindow* parent, const wxString& nadpis, const wxString& firma, int rok,
                                const std::vector<DenikRadek>& radky)
     : TablePrint(parent, wxString::Format("%s %d", nadpis, rok)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_layout.paperOrientation = wxLANDSCAPE;
 
     m_denik.tableTitle.title = m_title;

@@ -74,9 +74,7 @@ KartaMajetkuPrint::KartaMajetkuPrint(wxWindow* parent, const KartaMajetku& k)
 KnihaMajetkuPrint::KnihaMajetkuPrint(wxWindow* parent, const wxString& firma, int rok,
                                      const std::vector<KnihaMajetkuRadek>& radky)
     : TablePrint(parent, wxString::Format(u8("Kniha majetku %d"), rok)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_layout.paperOrientation = wxLANDSCAPE;
     m_kniha.tableTitle.title = m_title;
     const char* const hlavicka[] = {"Číslo",    "Název",    "Typ",       "Pořízeno",        "Vstupní cena",

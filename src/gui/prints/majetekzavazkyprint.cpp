@@ -11,9 +11,7 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 MajetekZavazkyPrint::MajetekZavazkyPrint(wxWindow* parent, const wxString& firma, int rok,
                                          const std::vector<MajetekZavazkyTiskRadek>& radky)
     : TablePrint(parent, wxString::Format(u8("Přehled majetku a závázků za rok %d"), rok)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_prehled.tableTitle.title = m_title;
     m_prehled.addCellToHeader(wxString());
     m_prehled.addCellToHeader(u8("Na začátku období"));

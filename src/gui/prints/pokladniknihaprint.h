@@ -16,6 +16,12 @@ struct PokladniPohyb {
     double vydej = 0;
 };
 
+// The movements of a cash register or account as a table: date, document, description,
+// income, expense and the running balance from `pocatecniStav`. *prijmy, *vydaje and *stav
+// receive the totals and the closing balance.
+Table tabulkaPohybu(const wxString& nadpis, double pocatecniStav, const std::vector<PokladniPohyb>& pohyby,
+                    double* prijmy, double* vydaje, double* stav);
+
 class PokladniKnihaPrint : public MultiTablePrint {
  public:
     PokladniKnihaPrint(wxWindow* parent, const wxString& firma, const wxString& pokladna, int rok, double pocatecniStav,

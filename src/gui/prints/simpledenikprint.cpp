@@ -11,9 +11,7 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 SimpleDenikPrint::SimpleDenikPrint(wxWindow* parent, const wxString& nadpis, const wxString& firma, int rok,
                                    const std::vector<DenikRadek>& radky)
     : TablePrint(parent, wxString::Format("%s %d", nadpis, rok)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
 
     m_denik.tableTitle.title = m_title;
     for (const char* name : {"Datum", "Číslo dokladu", "Popis", "Částka"}) m_denik.addCellToHeader(u8(name));

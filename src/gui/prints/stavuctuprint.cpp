@@ -29,9 +29,7 @@ Table tabulka(const char* title, const std::vector<StavUctuRadek>& radky) {
 StavUctuPrint::StavUctuPrint(wxWindow* parent, const wxString& firma, const std::vector<StavUctuRadek>& pokladny,
                              const std::vector<StavUctuRadek>& banky)
     : MultiTablePrint(parent, u8("Stav pokladen a bankovních účtů")) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_tabulky.push_back(tabulka("Pokladny", pokladny));
     m_tabulky.push_back(tabulka("Bankovní účty", banky));
     setTables(&m_tabulky);

@@ -11,9 +11,7 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 KartaZasobyPrint::KartaZasobyPrint(wxWindow* parent, const wxString& firma, const KartaHlavicka& zasoba,
                                    const std::vector<KartaRadek>& radky)
     : TablePrint(parent, wxString::Format(u8("Karta zásoby %s"), zasoba.cislo)) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_karta.tableTitle.title =
         wxString::Format(u8("%s %s, sklad %s, %s"), zasoba.cislo, zasoba.nazev, zasoba.sklad, zasoba.ocenovani);
     for (const char* h : {"Datum", "Číslo", "Pohyb", "Počet", "Cena za MJ", "Stav", "Hodnota"})
@@ -34,9 +32,7 @@ KartaZasobyPrint::KartaZasobyPrint(wxWindow* parent, const wxString& firma, cons
 KnihaZasobPrint::KnihaZasobPrint(wxWindow* parent, const wxString& firma, const wxDateTime& datum,
                                  const std::vector<KnihaZasobRadek>& radky)
     : TablePrint(parent, wxString::Format(u8("Kniha zásob k %s"), lxformat::formatDatum(datum))) {
-    m_layout.headerLeftText = firma;
-    m_layout.headerRightText = m_title;
-    m_layout.headerLine = true;
+    setBookHeader(firma);
     m_kniha.tableTitle.title = m_title;
     for (const char* h : {"Číslo", "Název", "Sklad", "MJ", "Množství", "Cena za MJ", "Hodnota"})
         m_kniha.addCellToHeader(u8(h));

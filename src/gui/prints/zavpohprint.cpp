@@ -1,6 +1,7 @@
 #include "zavpohprint.h"
 
 #include <cmath>
+#include <algorithm>
 #include <utility>
 
 #include "lxformat.h"
@@ -35,24 +36,45 @@ wxString stranaText(const ZavpohStrana& s) {
 
 }  // namespace
 
+std::vector<wxString> adresniRadky(const Adresa& a) {
+    const wxString ulice = (a.ulice() + " " + a.cp()).Strip(wxString::both);
+    const wxString misto = (a.psc() + " " + a.misto()).Strip(wxString::both);
+    return {ulice, misto, a.zeme()};
+}
+
 wxString ZavpohPrint::nadpis(const ZavpohDoklad& d) { return u8(d.zavazek ? "Závazek " : "Pohledávka ") + d.cislo; }
 
-ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d) : DocumentPrint(parent, nadpis(d)) {
-    m_doklad.layout.marginLeft = 10;
-    m_doklad.layout.marginRight = 10;
-    m_doklad.layout.marginTop = 15;
-    m_doklad.layout.marginBottom = 15;
-    m_doklad.layout.footer = lxPrint::FOOTER_PAGES;
+ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d)
+    : DocumentPrint(parent, d.nadpis.empty() ? nadpis(d) : d.nadpis) {
+    sazbaDokladu(m_doklad, d, m_title);
+    setDocument(&m_doklad);
+}
+
+void sazbaDokladu(Document& doc, const ZavpohDoklad& d, const wxString& title) {
+    doc.layout.marginLeft = 10;
+    doc.layout.marginRight = 10;
+    doc.layout.marginTop = 15;
+    doc.layout.marginBottom = 15;
+    doc.layout.footer = lxPrint::FOOTER_PAGES;
 
     const wxColour black(0, 0, 0), white(255, 255, 255);
     const TextStyle titulek(printFont(14).Bold(), black, white);
     const TextStyle tucne(printFont(10).Bold(), black, white);
     const TextStyle text(printFont(10), black, white);
+    const TextStyle drobne(printFont(8), black, white);
     const TextStyle polozky(printFont(9), black, white);
     const TextStyle hlavicka(printFont(9).Bold(), black, wxColour(230, 230, 230));
-    Sazba s(m_doklad, text, HALF);
+    Sazba s(doc, text, HALF);
 
-    s.add(TextElement(m_title, wxPoint(0, 0), WIDTH, wxTEXT_ALIGNMENT_CENTRE, titulek));
+    if (!d.logo.empty()) {
+        // The logo on the left, the title beside it.
+        ImageElement logo;
+        logo.path = d.logo;
+        logo.pos = wxPoint(0, 0);
+        logo.width = 25;
+        s.add(logo);
+    }
+    s.add(TextElement(title, wxPoint(0, 0), WIDTH, wxTEXT_ALIGNMENT_CENTRE, titulek));
     // The company supplies on a receivable and is supplied on a liability.
     const ZavpohStrana& dodavatel = d.zavazek ? d.protistrana : d.firma;
     const ZavpohStrana& odberatel = d.zavazek ? d.firma : d.protistrana;
@@ -61,15 +83,31 @@ ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d) : DocumentPrin
     s.add(TextElement(stranaText(dodavatel), wxPoint(0, 18), HALF, wxTEXT_ALIGNMENT_LEFT, text));
     s.add(TextElement(stranaText(odberatel), wxPoint(98, 18), HALF, wxTEXT_ALIGNMENT_LEFT, text));
     s.add(RectangleElement(wxPoint(96, 10), wxSize(WIDTH - 96, 38), LineStyle(black, 1), 2));
+    if (!d.registrace.empty())
+        s.add(TextElement(d.registrace, wxPoint(0, 44), HALF, wxTEXT_ALIGNMENT_LEFT, drobne));
 
     const int udaje = 54;
-    s.field(0, udaje, u8("Datum vystavení:"), datum(d.vystaveni));
-    s.field(0, udaje + 5, u8("Datum splatnosti:"), datum(d.splatnost));
-    if (d.platce) s.field(0, udaje + 10, u8("DUZP:"), datum(d.duzp));
-    s.field(98, udaje, u8("Variabilní symbol:"), d.vs);
-    s.field(98, udaje + 5, u8("Forma úhrady:"), d.uhrada);
-    s.field(98, udaje + 10, u8("Pokladna / účet:"), d.registr);
-    s.skip(udaje + 18);
+    int vlevo = udaje, vpravo = udaje;
+    auto left = [&](const char* label, const wxString& value) {
+        s.field(0, vlevo, u8(label), value);
+        vlevo += 5;
+    };
+    auto right = [&](const char* label, const wxString& value) {
+        s.field(98, vpravo, u8(label), value);
+        vpravo += 5;
+    };
+    left("Datum vystavení:", datum(d.vystaveni));
+    left("Datum splatnosti:", datum(d.splatnost));
+    if (d.platce) left("DUZP:", datum(d.duzp));
+    right("Forma úhrady:", d.uhrada);
+    if (!d.ucet.empty()) right("Bankovní účet:", d.ucet);
+    if (!d.iban.empty()) right("IBAN:", d.iban);
+    if (!d.bic.empty()) right("BIC (SWIFT):", d.bic);
+    if (d.ucet.empty() && d.iban.empty() && !d.registr.empty()) right("Pokladna / účet:", d.registr);
+    right("Variabilní symbol:", d.vs);
+    if (!d.ks.empty()) right("Konstantní symbol:", d.ks);
+    if (!d.ss.empty()) right("Specifický symbol:", d.ss);
+    s.skip(std::max(vlevo, vpravo) + 3);
     if (!d.popis.empty()) {
         s.add(TextElement(d.popis, wxPoint(0, s.y()), WIDTH, wxTEXT_ALIGNMENT_LEFT, text));
         s.skip(8);
@@ -110,11 +148,35 @@ ZavpohPrint::ZavpohPrint(wxWindow* parent, const ZavpohDoklad& d) : DocumentPrin
                   rekap, polozky, x);
     }
 
+    // The totals on the right; the QR code, when there is one, on the left beside them.
+    ImageElement qr;
+    qr.path = ImageElement::PATH_QR;
+    qr.qr = d.qrtext;
+    const int qrVyska = d.qrtext.empty() ? 0 : static_cast<int>(std::ceil(qr.bounds().m_height));
     s.skip(6);
-    s.need(10);
+    s.need(std::max(qrVyska, 16 + (d.razitko.empty() ? 0 : 35)));
+    const int dole = s.y();
+    if (qrVyska > 0) {
+        qr.pos = wxPoint(0, dole);
+        s.add(qr);
+    }
+    if (d.maZaokrouhleni) {
+        s.add(TextElement(u8("Zaokrouhlení: ") + lxformat::formatCastka(d.zaokrouhleni, d.mena), wxPoint(0, s.y()),
+                          WIDTH, wxTEXT_ALIGNMENT_RIGHT, text));
+        s.skip(6);
+    }
     s.add(TextElement(u8("Celkem k úhradě: ") + lxformat::formatCastka(d.celkem, d.mena), wxPoint(0, s.y()), WIDTH,
                       wxTEXT_ALIGNMENT_RIGHT, titulek));
-    m_doklad.pages = s.page();
-    m_doklad.sortElements();
-    setDocument(&m_doklad);
+    s.skip(12);
+    if (!d.razitko.empty()) {
+        ImageElement razitko;
+        razitko.path = d.razitko;
+        razitko.pos = wxPoint(WIDTH, s.y());
+        razitko.width = 40;
+        razitko.alignment = wxTEXT_ALIGNMENT_RIGHT;
+        s.add(razitko);
+    }
+    s.skip(std::max(0, dole + qrVyska - s.y()));
+    doc.pages = s.page();
+    doc.sortElements();
 }

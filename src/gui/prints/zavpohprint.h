@@ -1,6 +1,7 @@
-// One receivable or liability as a document: the two parties with their addresses, the
-// number, dates, variable symbol and how it is paid, its items, for a VAT payer's document
-// the VAT summary per rate, and the total.
+// One receivable, liability or issued invoice as a document: the two parties with their
+// addresses, the number, dates, symbols and how it is paid, its items, for a VAT payer's
+// document the VAT summary per rate, the rounding, the total and, for an invoice paid to an
+// account with an IBAN, the QR payment code.
 #pragma once
 
 #include <wx/datetime.h>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "document.h"
+#include "records.h"
 #include "documentprint.h"
 
 // A party of the document as it prints: its name, then address lines, IČ and DIČ.
@@ -17,6 +19,9 @@ struct ZavpohStrana {
     wxString ic;
     wxString dic;
 };
+
+// The address as it prints: "street number", "postcode town", country.
+std::vector<wxString> adresniRadky(const Adresa& adresa);
 
 struct ZavpohPolozka {
     wxString popis;
@@ -52,7 +57,24 @@ struct ZavpohDoklad {
     std::vector<ZavpohPolozka> polozky;
     std::vector<ZavpohDph> souhrn;
     double celkem = 0;
+
+    // What an issued invoice adds; receivables and liabilities leave these empty.
+    wxString nadpis;  // the title; empty gives nadpis() of the document
+    wxString ucet;    // "number/bank code" of the account it is paid to
+    wxString iban;
+    wxString bic;
+    wxString ks;
+    wxString ss;
+    bool maZaokrouhleni = false;
+    double zaokrouhleni = 0;
+    wxString qrtext;     // the QR payment string; empty prints no code
+    wxString logo;       // picture files of the company, empty for none
+    wxString razitko;
+    wxString registrace;  // the supplier's registration note, printed under the parties
 };
+
+// Lays the document out into `doc` from the top down, over as many pages as the items need.
+void sazbaDokladu(Document& doc, const ZavpohDoklad& doklad, const wxString& nadpis);
 
 class ZavpohPrint : public DocumentPrint {
  public:

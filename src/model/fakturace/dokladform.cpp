@@ -1,5 +1,6 @@
 #include "dokladform.h"
 
+
 #include "castky.h"
 #include "clock.h"
 #include "denikform.h"
@@ -7,6 +8,7 @@
 #include "lxsettings.h"
 #include "recordio.h"
 #include "sqllog.h"
+#include "sklad/skladform.h"
 #include "sqlvalue.h"
 
 namespace {
@@ -357,6 +359,13 @@ wxString ulozitDoklad(DbModel& model, const DokladForm& formIn, bool smazatUhrad
     if (trimmed(form.cislo).empty()) form.cislo = model.getCisloDokladu(rada);
     const wxString protistrana = trimmed(form.protistrana);
     const bool novyKontakt = !protistrana.empty() && model.getKontaktIdByNazev(protistrana) < 0;
+    // A new date moves the invoice's stock issues; the items whose issues are all covered now
+    // must stay so (stock that was short before, in older data, does not block the save).
+    std::vector<int> kryteZasoby;
+    if (form.faktura() && !form.novy)
+        for (const auto& p : model.fapolozkyByFakturaId(form.id))
+            if (p->zasobaid() > 0 && skladform::nekrytyVydej(model, p->zasobaid()).empty())
+                kryteZasoby.push_back(p->zasobaid());
     try {
         DbModel::WriteTransaction tx(model.db());
         const int protistranaid = protistranaId(model, protistrana);
@@ -366,6 +375,10 @@ wxString ulozitDoklad(DbModel& model, const DokladForm& formIn, bool smazatUhrad
         if (!ulozRadek(model, form, protistranaid, celkemDokladu(model, form), false))
             return u8("Doklad se nepodařilo uložit");
         if (form.faktura() && form.vystaveni.IsValid()) model.editPohybzasobDatum(form.id, form.vystaveni);
+        for (int zasobaid : kryteZasoby) {
+            const wxString nekryto = skladform::nekrytyVydej(model, zasobaid);
+            if (!nekryto.empty()) return nekryto;
+        }
         if (smazatUhrady && !(form.faktura() ? model.deleteUhradaByFakturaId(form.id)
                                              : model.deleteUhradaByZavpohId(form.id)))
             return u8("Doklad se nepodařilo uložit");

@@ -146,9 +146,16 @@ wxString ulozitPohyb(DbModel& model, const PohybForm& form, int* id) {
     pohyb.setCenamj(form.prijemka || form.cenamj != 0
                         ? form.cenamj
                         : cenaVydeje(model, form.zasobaid, form.datum, form.pocet, form.id, -1));
+    // An edited receipt (less, or later) must still cover the issues after it; stock that was
+    // short already before, in older data, does not block the edit.
+    const bool kryto = nekrytyVydej(model, form.zasobaid).empty();
     DbModel::WriteTransaction tx(model.db());
     const int ulozeno = zapsatPohyb(model, pohyb);
     if (ulozeno < 0 || !model.updateStavZasob(form.zasobaid)) return u8("Pohyb nelze uložit");
+    if (kryto) {
+        const wxString nekryto = nekrytyVydej(model, form.zasobaid);
+        if (!nekryto.empty()) return nekryto;
+    }
     tx.commit();
     if (id) *id = ulozeno;
     return wxString();
@@ -159,13 +166,31 @@ wxString smazatPohybDotaz(const Pohybzasob& pohyb, const wxString& mj) {
                             pohyb.datum().Format("%d.%m.%Y %H:%M:%S"));
 }
 
-bool smazatPohyb(DbModel& model, int id) {
+wxString nekrytyVydej(DbModel& model, int zasobaid) {
+    double stav = 0;
+    for (const auto& p : model.pohybyzasobByZasobaId(zasobaid)) {
+        if (p->prijemka()) {
+            stav += p->pocet();
+            continue;
+        }
+        if (stav < p->pocet() - 1e-9) return nedostatekZprava(stav, p->pocet());
+        stav -= p->pocet();
+    }
+    return wxString();
+}
+
+wxString smazatPohyb(DbModel& model, int id) {
     const Pohybzasob pohyb = model.getPohybzasob(id);
-    if (!pohyb.isValid()) return false;
+    if (!pohyb.isValid()) return u8("Pohyb nelze smazat");
+    const bool kryto = nekrytyVydej(model, pohyb.zasobaid()).empty();
     DbModel::WriteTransaction tx(model.db());
-    if (!model.deletePohybzasob(id) || !model.updateStavZasob(pohyb.zasobaid())) return false;
+    if (!model.deletePohybzasob(id) || !model.updateStavZasob(pohyb.zasobaid())) return u8("Pohyb nelze smazat");
+    if (kryto) {
+        const wxString nekryto = nekrytyVydej(model, pohyb.zasobaid());
+        if (!nekryto.empty()) return nekryto;
+    }
     tx.commit();
-    return true;
+    return wxString();
 }
 
 std::vector<RadekKarty> kartaZasoby(int metoda, const lxPohybzasobArray& pohyby) {

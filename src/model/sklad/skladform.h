@@ -65,8 +65,13 @@ wxString pohybValidation(DbModel& model, const PohybForm& form);
 wxString ulozitPohyb(DbModel& model, const PohybForm& form, int* id = nullptr);
 // "Opravdu smazat pohyb:\n<number>\n<quantity> <unit>\nz <date and time>?"
 wxString smazatPohybDotaz(const Pohybzasob& pohyb, const wxString& mj);
-// Deletes the movement and refreshes its item's state.
-bool smazatPohyb(DbModel& model, int id);
+// Deletes the movement and refreshes its item's state. A receipt that a later issue needs
+// stays, with the shortage message of that issue. Returns the message, empty on success.
+wxString smazatPohyb(DbModel& model, int id);
+
+// The first issue of the item that takes more than the item holds just before it, as the
+// shortage message; empty when every issue is covered.
+wxString nekrytyVydej(DbModel& model, int zasobaid);
 
 // One line of an item's card: a movement and the item's state after it.
 struct RadekKarty {
