@@ -101,7 +101,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
         {"Jí&zdy",
          "Kniha jízd|Vozidla|Řidiči|Pohonné hmoty|Druhy vozidel a sazby náhrad|Náhrada za použití vozidla"},
         {"Ú&pravy", "Datum aplikace\tAlt-D|Editor šablon|Nastavení..."},
-        {"&Nápověda", "Nápověda\tF1|Zkontrolovat aktualizace"},
+        {"&Nápověda", "Nápověda\tF1|Zkontrolovat aktualizace|O programu"},
     };
     ASSERT_EQ(bar->GetMenuCount(), std::size(expected));
     for (size_t i = 0; i < bar->GetMenuCount(); ++i) {
