@@ -11,6 +11,7 @@
 #include <wx/treectrl.h>
 #include <wx/utils.h>
 
+#include "OProgramuDialog.h"
 #include "book/lxbook.h"
 #include "controls/lxdatectrl.h"
 #include "book/lxbookpage.h"
@@ -390,3 +391,20 @@ TEST_F(MainWindow, ForcedCloseSkipsTheReminderAndTheWindowStoresItsGeometryAndLa
 }
 
 }  // namespace
+
+TEST_F(MainWindow, AboutFromTheHelpMenuNamesTheOpenCompanyFile) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    wxString verze, firma;
+    m_dialogs.then([&](wxDialog* dialog) {
+        auto* about = dynamic_cast<OProgramuDialog*>(dialog);
+        ASSERT_NE(about, nullptr) << dialog->GetTitle();
+        verze = about->verze();
+        firma = about->otevrenaFirma();
+        click(dialog, wxID_OK);
+    });
+    command(wxID_ABOUT);
+    EXPECT_EQ(m_dialogs.titles.back(), u8("O programu"));
+    EXPECT_EQ(verze, lxutils::EVIDA_VERSION);
+    EXPECT_EQ(wxFileName(firma), wxFileName(lxutils::dataDir(), "evida1.db"));
+}
