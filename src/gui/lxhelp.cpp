@@ -212,6 +212,7 @@ void showPage(wxWindow* parent, const wxString& page) {
         return;
     }
     wxHtmlHelpController help(wxHF_DEFAULT_STYLE | wxHF_DIALOG | wxHF_MODAL, parent);
+    help.SetFrameParameters(wxString::FromUTF8("Nápověda – %s"), parent->FromDIP(wxSize(900, 650)));
     help.AddBook(wxFileName(book));
     help.DisplaySection(page);
 }

@@ -9,6 +9,7 @@
 #pragma once
 
 #include <wx/event.h>
+#include <wx/eventfilter.h>
 #include <wx/string.h>
 
 #include <functional>
