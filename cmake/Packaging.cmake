@@ -7,7 +7,7 @@
 #   share/icons/hicolor/NxN/apps/evida.png
 #   share/metainfo/io.github.evida.Evida.metainfo.xml
 #   share/man/man1/evida.1.gz, evida-cli.1.gz
-#   share/doc/evida/copyright, changelog.Debian.gz
+#   share/doc/evida/copyright, changelog.gz
 
 # The date of this version's release, shown in the manual pages and the AppStream release.
 set(EVIDA_RELEASE_DATE 2026-11-24)
@@ -43,9 +43,9 @@ if(NOT EVIDA_CONVERT)
 endif()
 
 # Manual pages and the Debian changelog, compressed as Debian wants (gzip -9n: no name, no time).
-foreach(page evida.1 evida-cli.1 changelog.Debian)
-  if(page STREQUAL "changelog.Debian")
-    configure_file(data/package/changelog.Debian.in ${EVIDA_PACKAGING_DIR}/${page} @ONLY)
+foreach(page evida.1 evida-cli.1 changelog)
+  if(page STREQUAL "changelog")
+    configure_file(data/package/changelog.in ${EVIDA_PACKAGING_DIR}/${page} @ONLY)
   else()
     configure_file(data/${page}.in ${EVIDA_PACKAGING_DIR}/${page} @ONLY)
   endif()
@@ -56,7 +56,8 @@ foreach(page evida.1 evida-cli.1 changelog.Debian)
 endforeach()
 install(FILES ${EVIDA_PACKAGING_DIR}/evida.1.gz ${EVIDA_PACKAGING_DIR}/evida-cli.1.gz
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES data/package/copyright ${EVIDA_PACKAGING_DIR}/changelog.Debian.gz
+# The version has no Debian revision, so this is a native package: its changelog is changelog.gz.
+install(FILES data/package/copyright ${EVIDA_PACKAGING_DIR}/changelog.gz
         DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/evida)
 add_custom_target(evida_packaging ALL DEPENDS ${EVIDA_GENERATED})
 
@@ -80,18 +81,19 @@ set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://www.evida.cz")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 # The Czech texts of wxWidgets' own dialogs (print preview, help viewer, file choosers).
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "wx3.2-i18n")
+# The synopsis is CPACK_PACKAGE_DESCRIPTION_SUMMARY; cpack indents these lines and marks the
+# empty ones as paragraph breaks.
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
-"Czech tax records for sole traders and small businesses
- Evida keeps the statutory tax records of a Czech sole trader or small
- business on a cash basis: the money journal, cash registers and bank
- accounts, issued and received invoices, receivables and liabilities with
- their payments, fixed assets with tax depreciation, stock, and a vehicle log.
- .
- It produces the VAT return, the VAT control statement and the EC sales list
- as the tax administration's XML files, checked against the official schemas,
- and prints books and documents to paper or PDF. The user interface is Czech.
- .
- The package also contains evida-cli, a command-line tool for checking company
- files, importing journal entries and bank statements and exporting filings.")
+"Evida keeps the statutory tax records of a Czech sole trader or small
+business on a cash basis: the money journal, cash registers and bank
+accounts, issued and received invoices, receivables and liabilities with
+their payments, fixed assets with tax depreciation, stock, and a vehicle log.
+
+It produces the VAT return, the VAT control statement and the EC sales list
+as the tax administration's XML files, checked against the official schemas,
+and prints books and documents to paper or PDF. The user interface is Czech.
+
+The package also contains evida-cli, a command-line tool for checking company
+files, importing journal entries and bank statements and exporting filings.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 include(CPack)
