@@ -6,6 +6,9 @@
 #include <wx/display.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
+#include <wx/html/helpfrm.h>
+#include <wx/html/helpwnd.h>
+#include <wx/html/htmlwin.h>
 #include <wx/menu.h>
 #include <wx/toolbar.h>
 #include <wx/treectrl.h>
@@ -407,4 +410,29 @@ TEST_F(MainWindow, AboutFromTheHelpMenuNamesTheOpenCompanyFile) {
     EXPECT_EQ(m_dialogs.titles.back(), u8("O programu"));
     EXPECT_EQ(verze, lxutils::EVIDA_VERSION);
     EXPECT_EQ(wxFileName(firma), wxFileName(lxutils::dataDir(), "evida1.db"));
+}
+
+TEST_F(MainWindow, HelpOpensThePageOfTheBookShown) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    auto openedPage = [] {
+        for (wxWindow* w : wxTopLevelWindows) {
+            if (auto* viewer = dynamic_cast<wxHtmlHelpFrame*>(w))
+                return viewer->GetHelpWindow()->GetHtmlWindow()->GetOpenedPage();
+        }
+        return wxString();
+    };
+    const struct {
+        int command;
+        const char* page;
+    } cases[] = {
+        {evidaFrame::ID_POKLADNA, "pokladna.html"},
+        {evidaFrame::ID_FAKTURY_PRIJATE, "fakturyprijate.html"},
+        {evidaFrame::ID_ZASOBY, "sklad.html"},
+    };
+    for (const auto& c : cases) {
+        command(c.command);
+        command(wxID_HELP);
+        EXPECT_TRUE(openedPage().EndsWith(c.page)) << c.page << ": " << openedPage();
+    }
 }
