@@ -8,7 +8,7 @@ set -eu
 cd "$(dirname "$0")/.."
 BUILD_DIR=${BUILD_DIR:-build-package}
 BUILD_TYPE=${BUILD_TYPE:-Release}
-for tool in dpkg-shlibdeps fakeroot convert gzip; do
+for tool in dpkg-shlibdeps fakeroot convert gzip msgfmt; do
     command -v "$tool" >/dev/null || { echo "Chybí $tool: spusťte scripts/setup.sh" >&2; exit 1; }
 done
 launcher=""
