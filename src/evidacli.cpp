@@ -37,6 +37,9 @@
 //                           the VAT return against the control statement of the period: the
 //                           differences with their documents and the documents the statement
 //                           cannot place; exit status 0 when all agrees, 3 otherwise
+//   evida-cli zdroje        where the help book, the filing schemas and the Czech catalogue
+//                           were found; exit status 1 when one is missing
+//   evida-cli --version     the program's version
 //
 // Messages are Czech; the technical details of a failure (SQLite's and wxWidgets' own English
 // lines) go to the standard error only with --verbose, which may stand anywhere.
@@ -59,7 +62,9 @@
 #include "fakturace/souhrndokladu.h"
 #include "lxformat.h"
 #include "lxsettings.h"
+#include "lxutils.h"
 #include "schema.h"
+#include "zdroje.h"
 
 namespace {
 
@@ -93,11 +98,23 @@ int usage() {
                                 "  rates SOUBOR DATUM     kurzy ČNB ke dni (DATUM jako RRRR-MM-DD)\n"
                                 "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
                                 "  stav SOUBOR            stav pokladen a bankovních účtů\n"
-                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n") +
+                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n"
+                                "  zdroje                 kde jsou nápověda, schémata podání a katalog překladů\n"
+                                "  --version              verze programu\n") +
              evidacli::exportUsage() + "\n" + evidacli::kontrolaUsage() + "\n" + evidacli::importVypisuUsage() + "\n" +
                                 wxString::FromUTF8(
                                 "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
+}
+
+// The installed files the programs need, each with the path where it was found.
+int zdrojeProgramu() {
+    const wxString chybi = wxString::FromUTF8("nenalezeno");
+    const wxString napoveda = zdroje::helpBook(), schemata = zdroje::xsdDir(), katalog = zdroje::catalogue();
+    print(wxString::FromUTF8("Nápověda: ") + (napoveda.empty() ? chybi : napoveda));
+    print(wxString::FromUTF8("Schémata: ") + (schemata.empty() ? chybi : schemata));
+    print(wxString::FromUTF8("Katalog: ") + (katalog.empty() ? chybi : katalog));
+    return napoveda.empty() || schemata.empty() || katalog.empty() ? 1 : 0;
 }
 
 int create(DbModel& model, const wxString& path) {
@@ -277,6 +294,11 @@ int main(int argc, char** argv) {
     // Where the backups are, for the message about a damaged file.
     lxSettings::instance()->load();
 
+    if (args.size() == 1 && args[0] == "--version") {
+        print(wxString("evida-cli ") + lxutils::EVIDA_VERSION);
+        return 0;
+    }
+    if (args.size() == 1 && args[0] == "zdroje") return zdrojeProgramu();
     if (args.size() < 2) return usage();
     const wxString& command = args[0];
     if (command == "export" && args.size() >= 3) {

@@ -15,6 +15,7 @@
 #include "JizdyCiselnikDialog.h"
 #include "MajetekZavazkyDialog.h"
 #include "NahradaDialog.h"
+#include "OProgramuDialog.h"
 #include "OdpiskupinyDialog.h"
 #include "SkladyDialog.h"
 #include "PredkontacesDialog.h"
@@ -210,6 +211,8 @@ void evidaFrame::createMenuBar() {
     auto* napoveda = new wxMenu();
     napoveda->Append(wxID_HELP, u8("Nápověda\tF1"));
     napoveda->Append(ID_AKTUALIZACE, u8("Zkontrolovat aktualizace"));
+    napoveda->AppendSeparator();
+    napoveda->Append(wxID_ABOUT, u8("O programu"), u8("Verze programu, datová složka a otevřená firma"));
     bar->Append(napoveda, u8("&Nápověda"));
 
     SetMenuBar(bar);
@@ -292,6 +295,7 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onPreferences, this, wxID_PREFERENCES);
     Bind(wxEVT_MENU, &evidaFrame::onHelp, this, wxID_HELP);
     Bind(wxEVT_MENU, &evidaFrame::onAktualizace, this, ID_AKTUALIZACE);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { OProgramuDialog(this).ShowModal(); }, wxID_ABOUT);
     for (const PageItem& item : PAGE_ITEMS) Bind(wxEVT_MENU, &evidaFrame::onPage, this, item.id);
 
     // The menu is disabled without the vehicle log; a shortcut must not get round that.
