@@ -4,11 +4,13 @@
 // list of sent invoices with its CSV export.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <wx/app.h>
 #include <wx/bookctrl.h>
 #include <wx/checkbox.h>
 #include <wx/ffile.h>
 #include <wx/choice.h>
 #include <wx/listctrl.h>
+#include <wx/prntbase.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
 #include <sys/socket.h>
@@ -262,4 +264,27 @@ TEST_F(EmailTest, PreferencesPageStoresSettingsWithEncipheredPassword) {
     choose(field<wxChoice>(again.emailPanel(), "zabezpeceni"), 0);
     ASSERT_TRUE(again.save());
     EXPECT_FALSE(m_model->smtp().ssl());
+}
+
+// "Náhled" asks for the layout and opens the invoice's preview; cancelling the choice opens none.
+TEST_F(EmailTest, PreviewAsksForLayout) {
+    const auto previews = [] {
+        std::vector<wxPreviewFrame*> all;
+        for (wxWindow* t : wxTopLevelWindows)
+            if (auto* f = dynamic_cast<wxPreviewFrame*>(t); f && !f->IsBeingDeleted()) all.push_back(f);
+        return all;
+    };
+    SendEmailDialog dialog(m_frame, m_model->getFaktura(m_faktura));
+    m_prompts.answerChoice(-1);
+    pressButton(&dialog, "nahled");
+    EXPECT_TRUE(previews().empty());
+    m_prompts.answerChoice(0);
+    pressButton(&dialog, "nahled");
+    ASSERT_EQ(m_prompts.shown().size(), 2u);
+    for (const auto& s : m_prompts.shown()) EXPECT_EQ(s.caption, u8("Typ šablony"));
+    const std::vector<wxPreviewFrame*> opened = previews();
+    ASSERT_EQ(opened.size(), 1u);
+    EXPECT_EQ(opened[0]->GetTitle(), "Faktura");
+    opened[0]->Destroy();
+    wxTheApp->ProcessIdle();
 }
