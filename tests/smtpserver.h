@@ -5,6 +5,8 @@
 #pragma once
 
 #include <fcntl.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -92,4 +94,20 @@ class LoopbackSmtpServer {
     wxString m_folder;
     pid_t m_pid = -1;
     int m_port = 0;
+};
+
+// A loopback port nobody listens on: bound but never listening, so connections are refused.
+struct ClosedPort {
+    int fd = socket(AF_INET, SOCK_STREAM, 0);
+    int port = 0;
+    ClosedPort() {
+        sockaddr_in a{};
+        a.sin_family = AF_INET;
+        a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+        socklen_t len = sizeof a;
+        if (bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof a) == 0 &&
+            getsockname(fd, reinterpret_cast<sockaddr*>(&a), &len) == 0)
+            port = ntohs(a.sin_port);
+    }
+    ~ClosedPort() { close(fd); }
 };

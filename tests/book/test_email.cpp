@@ -13,8 +13,6 @@
 #include <wx/prntbase.h>
 #include <wx/spinctrl.h>
 #include <wx/textctrl.h>
-#include <sys/socket.h>
-#include <netinet/in.h>
 
 #include "EmailPanel.h"
 #include "OdeslaneDialog.h"
@@ -192,17 +190,9 @@ TEST_F(EmailTest, SendsInvoicePdfAndLogsIt) {
 // A transfer that fails shows libcurl's text under "Email Error!", logs nothing and leaves the
 // dialog open; a cancelled layout choice sends nothing at all.
 TEST_F(EmailTest, FailedOrCancelledSendingLogsNothing) {
-    int closedPort = 0;
-    const int fd = socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t len = sizeof a;
-    if (bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof a) == 0 &&
-        getsockname(fd, reinterpret_cast<sockaddr*>(&a), &len) == 0)
-        closedPort = ntohs(a.sin_port);
-    ASSERT_GT(closedPort, 0);
-    smtp("127.0.0.1", closedPort, false, false, "", "");
+    const ClosedPort closed;
+    ASSERT_GT(closed.port, 0);
+    smtp("127.0.0.1", closed.port, false, false, "", "");
     {
         SendEmailDialog dialog(m_frame, m_model->getFaktura(m_faktura));
         m_prompts.answerChoice(0);
@@ -217,7 +207,6 @@ TEST_F(EmailTest, FailedOrCancelledSendingLogsNothing) {
         ASSERT_EQ(m_prompts.shown().size(), 1u);
         EXPECT_EQ(m_prompts.shown()[0].caption, u8("Typ šablony"));
     }
-    close(fd);
     EXPECT_EQ(m_model->tableRows("odeslany"), 0);
 }
 

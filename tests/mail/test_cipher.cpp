@@ -74,12 +74,3 @@ TEST_F(MailTest, DamagedKeyFileIsReplaced) {
     EXPECT_EQ(wxEmailMessageID(key).Decrypt(hex), "heslo");
     EXPECT_EQ(fileBytes(key).size(), 32u);
 }
-
-TEST_F(MailTest, HexText) {
-    EXPECT_EQ(wxEmailMessageID::toHexString(std::string("\x00\x0f\xa0\xff", 4)), "000fa0ff");
-    std::string bytes;
-    ASSERT_TRUE(wxEmailMessageID::fromHexString("000FA0ff", &bytes));
-    EXPECT_EQ(bytes, std::string("\x00\x0f\xa0\xff", 4));
-    EXPECT_FALSE(wxEmailMessageID::fromHexString("0g", &bytes));
-    EXPECT_FALSE(wxEmailMessageID::fromHexString("abc", &bytes));
-}

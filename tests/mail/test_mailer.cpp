@@ -3,34 +3,12 @@
 // compared byte for byte with the file sent. And the failures libcurl reports.
 #include <curl/curl.h>
 #include <gmock/gmock.h>
-#include <sys/socket.h>
-#include <netinet/in.h>
 
 #include "mailtest.h"
 #include "wxemailmessage.h"
 #include "wxmailer.h"
 
 using ::testing::Contains;
-
-namespace {
-
-// A loopback port nobody listens on: bound, never listened, so connections are refused.
-struct ClosedPort {
-    int fd = socket(AF_INET, SOCK_STREAM, 0);
-    int port = 0;
-    ClosedPort() {
-        sockaddr_in a{};
-        a.sin_family = AF_INET;
-        a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-        socklen_t len = sizeof a;
-        if (bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof a) == 0 &&
-            getsockname(fd, reinterpret_cast<sockaddr*>(&a), &len) == 0)
-            port = ntohs(a.sin_port);
-    }
-    ~ClosedPort() { close(fd); }
-};
-
-}  // namespace
 
 TEST(SmtpUrl, SchemeFollowsSecureModeWhateverThePort) {
     struct Case {
