@@ -6,8 +6,8 @@
 
 #include <fcntl.h>
 #include <netinet/in.h>
-#include <sys/socket.h>
 #include <signal.h>
+#include <sys/socket.h>
 #include <sys/wait.h>
 #include <unistd.h>
 #include <wx/arrstr.h>
@@ -55,7 +55,8 @@ class LoopbackSmtpServer {
         close(out[1]);
         FILE* in = fdopen(out[0], "r");
         char line[128] = {};
-        if (in && std::fgets(line, sizeof line, in) && std::strncmp(line, "port ", 5) == 0) m_port = std::atoi(line + 5);
+        if (in && std::fgets(line, sizeof line, in) && std::strncmp(line, "port ", 5) == 0)
+            m_port = std::atoi(line + 5);
         if (in) std::fclose(in);
     }
     ~LoopbackSmtpServer() {

@@ -47,8 +47,8 @@ SendEmailDialog::SendEmailDialog(wxWindow* parent, const Faktura& faktura)
     auto* buttons = new wxBoxSizer(wxHORIZONTAL);
     auto* nahledButton =
         new wxButton(this, wxID_ANY, u8("Náhled"), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator, "nahled");
-    auto* odeslat = new wxButton(this, wxID_OK, u8("Odeslat"), wxDefaultPosition, wxDefaultSize, 0,
-                                 wxDefaultValidator, "odeslat");
+    auto* odeslat =
+        new wxButton(this, wxID_OK, u8("Odeslat"), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator, "odeslat");
     auto* zrusit = new wxButton(this, wxID_CANCEL, u8("Zrušit"));
     buttons->Add(nahledButton);
     buttons->AddStretchSpacer();

@@ -15,9 +15,9 @@ wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
 wxTextCtrl* addText(wxWindow* parent, wxFlexGridSizer* grid, const char* label, const char* name, long style = 0) {
     const bool multi = (style & wxTE_MULTILINE) != 0;
-    auto* text = new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition,
-                                parent->FromDIP(multi ? wxSize(360, 110) : wxSize(360, -1)), style, wxDefaultValidator,
-                                name);
+    auto* text =
+        new wxTextCtrl(parent, wxID_ANY, "", wxDefaultPosition,
+                       parent->FromDIP(multi ? wxSize(360, 110) : wxSize(360, -1)), style, wxDefaultValidator, name);
     grid->Add(new wxStaticText(parent, wxID_ANY, u8(label)),
               multi ? wxSizerFlags().Top().Border(wxTOP, 4) : wxSizerFlags().CentreVertical());
     grid->Add(text, wxSizerFlags(multi ? 1 : 0).Expand());

@@ -22,9 +22,7 @@ std::string utf8(const wxString& text) {
     return std::string(b.data(), b.length());
 }
 
-std::string base64(const void* data, size_t length) {
-    return std::string(wxBase64Encode(data, length).utf8_str());
-}
+std::string base64(const void* data, size_t length) { return std::string(wxBase64Encode(data, length).utf8_str()); }
 
 // Body text with every line end as CR LF, as the SMTP transfer expects.
 std::string crlf(const std::string& text) {

@@ -1,10 +1,10 @@
 #include "wxemailmessageid.h"
 
 #include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <openssl/evp.h>
 #include <openssl/rand.h>
+#include <sys/stat.h>
+#include <unistd.h>
 #include <wx/filename.h>
 #include <wx/stdpaths.h>
 
@@ -44,9 +44,7 @@ bool writeNewKey(const std::string& path, std::string* key) {
 
 wxEmailMessageID::wxEmailMessageID(const wxString& keyPath) : m_keyPath(keyPath) {}
 
-wxString wxEmailMessageID::DefaultKeyPath() {
-    return wxStandardPaths::Get().GetUserDataDir() + "/smtp.klic";
-}
+wxString wxEmailMessageID::DefaultKeyPath() { return wxStandardPaths::Get().GetUserDataDir() + "/smtp.klic"; }
 
 bool wxEmailMessageID::LoadKey(bool create) {
     if (m_key.size() == KEY_BYTES) return true;

@@ -7,8 +7,8 @@
 #include <wx/app.h>
 #include <wx/bookctrl.h>
 #include <wx/checkbox.h>
-#include <wx/ffile.h>
 #include <wx/choice.h>
+#include <wx/ffile.h>
 #include <wx/listctrl.h>
 #include <wx/prntbase.h>
 #include <wx/spinctrl.h>
@@ -45,7 +45,6 @@ wxString value(wxWindow* parent, const char* name) {
     return text ? text->GetValue() : wxString("<none>");
 }
 
-
 }  // namespace
 
 class EmailTest : public BookTest {
@@ -61,8 +60,9 @@ class EmailTest : public BookTest {
     }
     // Stores SMTP settings as the preferences page would.
     void smtp(const wxString& server, int port, bool ssl, bool auth, const wxString& user, const wxString& password) {
-        ASSERT_TRUE(m_model->setSmtp(Smtp(server, port, ssl, auth, user, wxEmailMessageID().Encrypt(password),
-                                          "ucetni@firma.cz", "Faktura", u8("Dobrý den,\nv příloze Vám zasíláme fakturu"))));
+        ASSERT_TRUE(
+            m_model->setSmtp(Smtp(server, port, ssl, auth, user, wxEmailMessageID().Encrypt(password),
+                                  "ucetni@firma.cz", "Faktura", u8("Dobrý den,\nv příloze Vám zasíláme fakturu"))));
     }
     wxString folder(const char* name) {
         const wxString dir = m_home + "/" + name;
@@ -176,9 +176,12 @@ TEST_F(EmailTest, SendsInvoicePdfAndLogsIt) {
     const wxString csv = list.exportovat();
     EXPECT_EQ(csv, m_home + "/odeslane.csv");
     EXPECT_EQ(m_prompts.shown().back().text, u8("Exportovat seznam do"));
-    const std::string expected = "\xEF\xBB\xBF\"Datum a \xC4\x8D" "as\";\"Faktura\";\"P\xC5\x99\xC3\xAD" "jemce\"\r\n\"" +
-                                 std::string(log[0]->cas().Format("%x %X").utf8_str()) + "\";\"" +
-                                 std::string(m_cislo.utf8_str()) + "\";\"nakup@odberatel.cz\"\r\n";
+    const std::string expected =
+        "\xEF\xBB\xBF\"Datum a \xC4\x8D"
+        "as\";\"Faktura\";\"P\xC5\x99\xC3\xAD"
+        "jemce\"\r\n\"" +
+        std::string(log[0]->cas().Format("%x %X").utf8_str()) + "\";\"" + std::string(m_cislo.utf8_str()) +
+        "\";\"nakup@odberatel.cz\"\r\n";
     wxFFile f(csv, "rb");
     std::string written;
     ASSERT_TRUE(f.IsOpened());

@@ -99,7 +99,8 @@ TEST_F(MailTest, ReaderDecodesSubjectNameAndBytes) {
         EXPECT_THAT(seen, Contains(u8("defects:0")));
         EXPECT_THAT(seen, Contains(u8("filename:Faktura č. 2024001 – Žluťoučký kůň.pdf")));
         EXPECT_TRUE(fileBytes(out + u8("/Faktura č. 2024001 – Žluťoučký kůň.pdf")) == bytes) << "attachment differs";
-        EXPECT_EQ(fileBytes(out + "/text.txt"), std::string(u8("Dobrý den,\nv příloze Vám zasíláme fakturu").utf8_str()));
+        EXPECT_EQ(fileBytes(out + "/text.txt"),
+                  std::string(u8("Dobrý den,\nv příloze Vám zasíláme fakturu").utf8_str()));
     }
 }
 
