@@ -16,6 +16,7 @@
 #include "MajetekZavazkyDialog.h"
 #include "NahradaDialog.h"
 #include "OProgramuDialog.h"
+#include "OdeslaneDialog.h"
 #include "OdpiskupinyDialog.h"
 #include "SkladyDialog.h"
 #include "PredkontacesDialog.h"
@@ -84,7 +85,7 @@ const PageItem PAGE_ITEMS[] = {
 // tax, the sent-invoice log, stock-takings, the template editor). Their items are in place
 // and stay disabled until then.
 const int LATER_ITEMS[] = {
-    evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_ODESLANE_FAKTURY, evidaFrame::ID_EDITOR_SABLON,
+    evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_EDITOR_SABLON,
 };
 
 // The VAT commands, for VAT payers only.
@@ -239,6 +240,8 @@ void evidaFrame::createMenuBar() {
          ID_PREHLED_MAJETKU);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<InventuryDialog>(this, m_model.get()); }, ID_INVENTURY);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<SkladyDialog>(this, m_model.get()); }, ID_SKLADY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<OdeslaneDialog>(this, m_model.get()); },
+         ID_ODESLANE_FAKTURY);
     // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,
