@@ -44,6 +44,7 @@ RadekTabulkyDialog::RadekTabulkyDialog(wxWindow* parent, TableRowElement& elemen
     for (size_t i = 0; i < element.cellCount(); ++i)
         setRow(static_cast<int>(i), element.cellValue(i), i < element.width.size() ? element.width[i] : 0,
                i < element.alignment.size() ? element.alignment[i] : wxTEXT_ALIGNMENT_LEFT);
+    if (m_grid->GetNumberRows() > 0) m_grid->SetGridCursor(0, COL_HODNOTA);
 
     addPair("Pozice (mm):", "x", "y", element.pos, 0, MAX_MM);
     addTextStyle(element.textStyle);
