@@ -179,10 +179,10 @@ TEST(EditorGeometry, OnlyWholeNumbersAreMillimetres) {
         bool ok;
         long value;
     };
-    for (const Case& c : {Case{"12", true, 12}, Case{" 7 ", true, 7}, Case{"-3", true, -3}, Case{"0", true, 0},
-                          Case{"12.500", false, 0}, Case{"12,5", false, 0}, Case{"abc", false, 0}, Case{"", false, 0},
-                          Case{"-", false, 0}, Case{"1e3", false, 0}, Case{"1 000", false, 0},
-                          Case{"99999999999", false, 0}}) {
+    for (const Case& c :
+         {Case{"12", true, 12}, Case{" 7 ", true, 7}, Case{"-3", true, -3}, Case{"0", true, 0},
+          Case{"12.500", false, 0}, Case{"12,5", false, 0}, Case{"abc", false, 0}, Case{"", false, 0},
+          Case{"-", false, 0}, Case{"1e3", false, 0}, Case{"1 000", false, 0}, Case{"99999999999", false, 0}}) {
         long value = 0;
         EXPECT_EQ(parseWholeNumber(wxString::FromUTF8(c.text), &value), c.ok) << c.text;
         if (c.ok) {

@@ -138,55 +138,73 @@ class TemplateEditor : public BookTest {
 };
 
 void TemplateEditor::addOneOfEach() {
-    ASSERT_TRUE(add(Element::TEXT, [](wxDialog* d) {
-        typeText(d, "hodnota", u8("Faktura č. "));
-        static_cast<PrvekDialog*>(d)->insertPlaceholder("{faktura-cislo}");
-        typePair(d, "x", "y", "5", "2");
-        typeText(d, "sirka", "80");
-        choose(field<wxChoice>(d, "zarovnani"), 2);
-    }, "editor-text"));
-    ASSERT_TRUE(add(Element::PARAGRAPH, [](wxDialog* d) {
-        typeText(d, "hodnota", "{firma-nazev}\n{firma-ulice}\nIČ: {firma-ic}\n");
-        typePair(d, "x", "y", "0", "12");
-        typeText(d, "sirka", "90");
-        field<wxCheckBox>(d, "oramovat")->SetValue(true);
-        typeText(d, "sirkaCary", "2");
-        choose(field<wxChoice>(d, "sekce"), 1);
-    }, "editor-odstavec"));
-    ASSERT_TRUE(add(Element::TABLE_ROW, [](wxDialog* d) {
-        auto* dialog = static_cast<RadekTabulkyDialog*>(d);
-        wxGrid* grid = dialog->grid();
-        grid->SetCellValue(0, RadekTabulkyDialog::COL_HODNOTA, "");
-        dialog->insertPlaceholder("{polozka-popis}");
-        grid->SetCellValue(0, RadekTabulkyDialog::COL_SIRKA, "100");
-        dialog->pridatBunku();
-        grid->SetCellValue(1, RadekTabulkyDialog::COL_HODNOTA, "{polozka-celkem}");
-        grid->SetCellValue(1, RadekTabulkyDialog::COL_SIRKA, "30");
-        grid->SetCellValue(1, RadekTabulkyDialog::COL_ZAROVNANI, u8("Vpravo"));
-        dialog->pridatBunku();
-        dialog->smazatBunku();  // the third cell goes again
-        typePair(d, "x", "y", "0", "60");
-        choose(field<wxChoice>(d, "sekce"), DOCSECTION_ITEMS);
-    }, "editor-radek"));
-    ASSERT_TRUE(add(Element::IMAGE, [](wxDialog* d) {
-        choose(field<wxChoice>(d, "zdroj"), 3);
-        typePair(d, "x", "y", "140", "100");
-        typeText(d, "sirka", "40");
-        choose(field<wxChoice>(d, "sekce"), DOCSECTION_FOOTER3);
-    }, "editor-obrazek"));
-    ASSERT_TRUE(add(Element::LINE, [](wxDialog* d) {
-        typePair(d, "x1", "y1", "0", "58");
-        typePair(d, "x2", "y2", "190", "58");
-        field<wxCheckBox>(d, "horniOkraj")->SetValue(true);
-        choose(field<wxChoice>(d, "stylCary"), 1);
-        choose(field<wxChoice>(d, "sekce"), DOCSECTION_HEADER3);
-    }, "editor-cara"));
-    ASSERT_TRUE(add(Element::RECTANGLE, [](wxDialog* d) {
-        typePair(d, "x", "y", "100", "10");
-        typePair(d, "sirka", "vyska", "90", "40");
-        typeText(d, "zaobleni", "3");
-        field<wxCheckBox>(d, "ukotvit")->SetValue(true);
-    }, "editor-obdelnik"));
+    ASSERT_TRUE(add(
+        Element::TEXT,
+        [](wxDialog* d) {
+            typeText(d, "hodnota", u8("Faktura č. "));
+            static_cast<PrvekDialog*>(d)->insertPlaceholder("{faktura-cislo}");
+            typePair(d, "x", "y", "5", "2");
+            typeText(d, "sirka", "80");
+            choose(field<wxChoice>(d, "zarovnani"), 2);
+        },
+        "editor-text"));
+    ASSERT_TRUE(add(
+        Element::PARAGRAPH,
+        [](wxDialog* d) {
+            typeText(d, "hodnota", "{firma-nazev}\n{firma-ulice}\nIČ: {firma-ic}\n");
+            typePair(d, "x", "y", "0", "12");
+            typeText(d, "sirka", "90");
+            field<wxCheckBox>(d, "oramovat")->SetValue(true);
+            typeText(d, "sirkaCary", "2");
+            choose(field<wxChoice>(d, "sekce"), 1);
+        },
+        "editor-odstavec"));
+    ASSERT_TRUE(add(
+        Element::TABLE_ROW,
+        [](wxDialog* d) {
+            auto* dialog = static_cast<RadekTabulkyDialog*>(d);
+            wxGrid* grid = dialog->grid();
+            grid->SetCellValue(0, RadekTabulkyDialog::COL_HODNOTA, "");
+            dialog->insertPlaceholder("{polozka-popis}");
+            grid->SetCellValue(0, RadekTabulkyDialog::COL_SIRKA, "100");
+            dialog->pridatBunku();
+            grid->SetCellValue(1, RadekTabulkyDialog::COL_HODNOTA, "{polozka-celkem}");
+            grid->SetCellValue(1, RadekTabulkyDialog::COL_SIRKA, "30");
+            grid->SetCellValue(1, RadekTabulkyDialog::COL_ZAROVNANI, u8("Vpravo"));
+            dialog->pridatBunku();
+            dialog->smazatBunku();  // the third cell goes again
+            typePair(d, "x", "y", "0", "60");
+            choose(field<wxChoice>(d, "sekce"), DOCSECTION_ITEMS);
+        },
+        "editor-radek"));
+    ASSERT_TRUE(add(
+        Element::IMAGE,
+        [](wxDialog* d) {
+            choose(field<wxChoice>(d, "zdroj"), 3);
+            typePair(d, "x", "y", "140", "100");
+            typeText(d, "sirka", "40");
+            choose(field<wxChoice>(d, "sekce"), DOCSECTION_FOOTER3);
+        },
+        "editor-obrazek"));
+    ASSERT_TRUE(add(
+        Element::LINE,
+        [](wxDialog* d) {
+            typePair(d, "x1", "y1", "0", "58");
+            typePair(d, "x2", "y2", "190", "58");
+            field<wxCheckBox>(d, "horniOkraj")->SetValue(true);
+            choose(field<wxChoice>(d, "stylCary"), 1);
+            choose(field<wxChoice>(d, "sekce"), DOCSECTION_HEADER3);
+        },
+        "editor-cara"));
+    ASSERT_TRUE(add(
+        Element::RECTANGLE,
+        [](wxDialog* d) {
+            typePair(d, "x", "y", "100", "10");
+            typePair(d, "sirka", "vyska", "90", "40");
+            typeText(d, "zaobleni", "3");
+            field<wxCheckBox>(d, "ukotvit")->SetValue(true);
+        },
+        "editor-obdelnik"));
 }
 
 TEST_F(TemplateEditor, EachKindIsAddedThroughItsDialogAsTyped) {
@@ -346,13 +364,19 @@ TEST_F(TemplateEditor, SavedTemplateOpensAgainAttributeForAttribute) {
         }
     });
     EXPECT_FALSE(m_editor->upravit());
-    ASSERT_TRUE(withDialog([&] { m_editor->vlastnosti(); return true; }, [](wxDialog* d) {
-        typePair(d, "okrajVlevo", "okrajVpravo", "15", "12");
-        typeText(d, "zahlaviStred", u8("Vzorová faktura"));
-        field<wxCheckBox>(d, "caraZahlavi")->SetValue(true);
-        choose(field<wxChoice>(d, "typZapati"), 1);
-        typeText(d, "textZapati", u8("Děkujeme za spolupráci"));
-    }, nullptr, "editor-dokument"));
+    ASSERT_TRUE(withDialog(
+        [&] {
+            m_editor->vlastnosti();
+            return true;
+        },
+        [](wxDialog* d) {
+            typePair(d, "okrajVlevo", "okrajVpravo", "15", "12");
+            typeText(d, "zahlaviStred", u8("Vzorová faktura"));
+            field<wxCheckBox>(d, "caraZahlavi")->SetValue(true);
+            choose(field<wxChoice>(d, "typZapati"), 1);
+            typeText(d, "textZapati", u8("Děkujeme za spolupráci"));
+        },
+        nullptr, "editor-dokument"));
 
     m_prompts.answerPath(m_path);
     ASSERT_TRUE(m_editor->ulozit());
@@ -416,8 +440,8 @@ TEST_F(TemplateEditor, EveryOfferedPlaceholderIsFilledByTheInvoicePrint) {
     for (const PlaceholderGroup& group : placeholderGroups())
         for (const Placeholder& p : group.polozky) {
             const wxString key = p.key;
-            const wxString filled = parsePolozkaLine(parseSazbaLine(parseLine(key, data), 21, 100, 21),
-                                                     data.polozky.at(0), 21, 0);
+            const wxString filled =
+                parsePolozkaLine(parseSazbaLine(parseLine(key, data), 21, 100, 21), data.polozky.at(0), 21, 0);
             EXPECT_NE(filled, key) << key;
             EXPECT_FALSE(filled.Contains("{")) << key;
             ++count;

@@ -13,8 +13,8 @@ DokumentDialog::DokumentDialog(wxWindow* parent, Document& document)
     const lxPrint::Layout& l = document.layout;
     addPair("Okraj vlevo, vpravo (mm):", "okrajVlevo", "okrajVpravo", wxPoint(l.marginLeft, l.marginRight), 0,
             MAX_MARGIN, "vlevo:", "vpravo:");
-    addPair("Okraj nahoře, dole (mm):", "okrajNahore", "okrajDole", wxPoint(l.marginTop, l.marginBottom), 0,
-            MAX_MARGIN, "nahoře:", "dole:");
+    addPair("Okraj nahoře, dole (mm):", "okrajNahore", "okrajDole", wxPoint(l.marginTop, l.marginBottom), 0, MAX_MARGIN,
+            "nahoře:", "dole:");
     m_headerLeft = addText("Záhlaví vlevo:", "zahlaviVlevo", 320);
     m_headerCenter = addText("Záhlaví uprostřed:", "zahlaviStred", 320);
     m_headerRight = addText("Záhlaví vpravo:", "zahlaviVpravo", 320);

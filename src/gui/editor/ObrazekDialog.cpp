@@ -27,12 +27,10 @@ ObrazekDialog::ObrazekDialog(wxWindow* parent, ImageElement& element)
     m_zdroj->SetSelection(zdroj);
     m_zdroj->Bind(wxEVT_CHOICE, [this](wxCommandEvent&) { onZdroj(); });
     addField("Obrázek:", m_zdroj);
-    m_soubor = new wxFilePickerCtrl(this, wxID_ANY, zdroj == ZDROJ_SOUBOR ? element.path : wxString(),
-                                    u8("Vyberte obrázek"),
-                                    u8("Obrázky (*.png;*.jpg;*.jpeg;*.gif;*.bmp)|*.png;*.jpg;*.jpeg;*.gif;*.bmp"),
-                                    wxDefaultPosition, wxSize(320, -1),
-                                    wxFLP_OPEN | wxFLP_FILE_MUST_EXIST | wxFLP_USE_TEXTCTRL, wxDefaultValidator,
-                                    "soubor");
+    m_soubor = new wxFilePickerCtrl(
+        this, wxID_ANY, zdroj == ZDROJ_SOUBOR ? element.path : wxString(), u8("Vyberte obrázek"),
+        u8("Obrázky (*.png;*.jpg;*.jpeg;*.gif;*.bmp)|*.png;*.jpg;*.jpeg;*.gif;*.bmp"), wxDefaultPosition,
+        wxSize(320, -1), wxFLP_OPEN | wxFLP_FILE_MUST_EXIST | wxFLP_USE_TEXTCTRL, wxDefaultValidator, "soubor");
     addField("Soubor:", m_soubor);
     addPair("Pozice (mm):", "x", "y", element.pos, 0, MAX_MM);
     addNumber("Šířka (mm):", "sirka", element.width, 1, MAX_MM);

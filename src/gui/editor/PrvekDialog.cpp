@@ -10,15 +10,15 @@
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
 
-#include "editorgeometry.h"
-#include "placeholders.h"
-#include "prompts.h"
 #include "CaraDialog.h"
 #include "ObdelnikDialog.h"
 #include "ObrazekDialog.h"
 #include "OdstavecDialog.h"
 #include "RadekTabulkyDialog.h"
 #include "TextDialog.h"
+#include "editorgeometry.h"
+#include "placeholders.h"
+#include "prompts.h"
 
 namespace {
 
@@ -49,8 +49,8 @@ wxString fieldName(const char* label) {
 PrvekDialog::PrvekDialog(wxWindow* parent, const wxString& title) : FormDialog(parent, title) {}
 
 wxTextCtrl* PrvekDialog::numberControl(const char* name, int value) {
-    return new wxTextCtrl(this, wxID_ANY, wxString::Format("%d", value), wxDefaultPosition, wxSize(70, -1),
-                          wxTE_RIGHT, wxDefaultValidator, name);
+    return new wxTextCtrl(this, wxID_ANY, wxString::Format("%d", value), wxDefaultPosition, wxSize(70, -1), wxTE_RIGHT,
+                          wxDefaultValidator, name);
 }
 
 wxTextCtrl* PrvekDialog::addNumber(const char* label, const char* name, int value, int min, int max) {
@@ -105,8 +105,8 @@ bool PrvekDialog::readPair(const char* nameX, const char* nameY, wxPoint* value)
 }
 
 void PrvekDialog::addSectionAndPage(const Element& element) {
-    m_section = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, docSectionNames(), 0,
-                             wxDefaultValidator, "sekce");
+    m_section = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, docSectionNames(), 0, wxDefaultValidator,
+                             "sekce");
     m_section->SetSelection(element.section);
     addField("Sekce:", m_section);
     addNumber("Stránka:", "stranka", element.page, 1, MAX_PAGE);
@@ -144,8 +144,8 @@ wxTextAttrAlignment PrvekDialog::alignment() const {
 }
 
 void PrvekDialog::addTextStyle(const TextStyle& style) {
-    m_font = new wxFontPickerCtrl(this, wxID_ANY, style.font, wxDefaultPosition, wxDefaultSize,
-                                  wxFNTP_DEFAULT_STYLE, wxDefaultValidator, "pismo");
+    m_font = new wxFontPickerCtrl(this, wxID_ANY, style.font, wxDefaultPosition, wxDefaultSize, wxFNTP_DEFAULT_STYLE,
+                                  wxDefaultValidator, "pismo");
     addField("Písmo:", m_font);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     m_fontColour = new wxColourPickerCtrl(this, wxID_ANY, style.fontColour, wxDefaultPosition, wxDefaultSize,
@@ -194,8 +194,8 @@ bool PrvekDialog::readLineStyle(LineStyle* style) {
 }
 
 wxCheckBox* PrvekDialog::addCheck(const char* label, const char* name, bool value) {
-    auto* check = new wxCheckBox(this, wxID_ANY, u8(label), wxDefaultPosition, wxDefaultSize, 0,
-                                 wxDefaultValidator, name);
+    auto* check =
+        new wxCheckBox(this, wxID_ANY, u8(label), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator, name);
     check->SetValue(value);
     addField("", check);
     return check;

@@ -1,6 +1,6 @@
 // The shared form of the template editor's dialogs (the six element dialogs and the
-// document's): the section and page every element has, whole-millimetre fields with their range check, the text style and line style pickers,
-// the alignment choice and the placeholder menu that inserts into the dialog's text fields.
+// document's): the section and page every element has, whole-millimetre fields with their range check, the text style
+// and line style pickers, the alignment choice and the placeholder menu that inserts into the dialog's text fields.
 #pragma once
 
 #include <memory>

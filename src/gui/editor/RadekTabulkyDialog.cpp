@@ -118,8 +118,7 @@ bool RadekTabulkyDialog::save() {
     e.alignment.clear();
     for (int row = 0; row < m_grid->GetNumberRows(); ++row) {
         long width = 0;
-        if (!editorgeo::parseWholeNumber(m_grid->GetCellValue(row, COL_SIRKA), &width) || width < 1 ||
-            width > MAX_MM) {
+        if (!editorgeo::parseWholeNumber(m_grid->GetCellValue(row, COL_SIRKA), &width) || width < 1 || width > MAX_MM) {
             m_grid->SetGridCursor(row, COL_SIRKA);
             refused(wxString::Format(u8("Do pole „Šířka %d. buňky“ zadejte celé číslo od 1 do %d."), row + 1, MAX_MM),
                     m_grid);

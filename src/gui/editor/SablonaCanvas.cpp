@@ -264,7 +264,8 @@ void SablonaCanvas::drawGrips(wxDC& dc) {
     dc.SetBrush(wxBrush(wxColour(80, 120, 255)));
     const int half = wxRound(GRIP_PX / 2.0 / m_zoom);
     for (const Grip& g : gripsOf(shapeOf(*e))) {
-        const wxPoint c(wxRound((GAP_LEFT_MM + l.marginLeft + g.at.x) * f), wxRound((GAP_TOP_MM + l.marginTop + g.at.y) * f));
+        const wxPoint c(wxRound((GAP_LEFT_MM + l.marginLeft + g.at.x) * f),
+                        wxRound((GAP_TOP_MM + l.marginTop + g.at.y) * f));
         dc.DrawRectangle(c.x - half, c.y - half, 2 * half + 1, 2 * half + 1);
     }
 }

@@ -124,18 +124,31 @@ void SablonaEditor::buildMenu() {
     bar->Append(prvek, u8("&Prvek"));
     SetMenuBar(bar);
 
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { novy(); }, wxID_NEW);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { otevrit(); }, wxID_OPEN);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { ulozit(); }, wxID_SAVE);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { ulozitJako(); }, wxID_SAVEAS);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_CLOSE);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { nahled(); }, ID_NAHLED);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { vlastnosti(); }, ID_VLASTNOSTI);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { upravit(); }, ID_UPRAVIT);
-    Bind(wxEVT_MENU, [this](wxCommandEvent&) { smazat(); }, ID_SMAZAT);
-    for (const Druh& d : DRUHY) Bind(wxEVT_MENU, [this, type = d.type](wxCommandEvent&) { pridat(type); }, d.id);
-    Bind(wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& e) { e.Enable(m_canvas->selection() >= 0); }, ID_UPRAVIT);
-    Bind(wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& e) { e.Enable(m_canvas->selection() >= 0); }, ID_SMAZAT);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { novy(); }, wxID_NEW);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { otevrit(); }, wxID_OPEN);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { ulozit(); }, wxID_SAVE);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { ulozitJako(); }, wxID_SAVEAS);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { Close(); }, wxID_CLOSE);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { nahled(); }, ID_NAHLED);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { vlastnosti(); }, ID_VLASTNOSTI);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { upravit(); }, ID_UPRAVIT);
+    Bind(
+        wxEVT_MENU, [this](wxCommandEvent&) { smazat(); }, ID_SMAZAT);
+    for (const Druh& d : DRUHY)
+        Bind(
+            wxEVT_MENU, [this, type = d.type](wxCommandEvent&) { pridat(type); }, d.id);
+    Bind(
+        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& e) { e.Enable(m_canvas->selection() >= 0); }, ID_UPRAVIT);
+    Bind(
+        wxEVT_UPDATE_UI, [this](wxUpdateUIEvent& e) { e.Enable(m_canvas->selection() >= 0); }, ID_SMAZAT);
 }
 
 void SablonaEditor::buildToolBar() {
@@ -199,7 +212,8 @@ void SablonaEditor::novy() {
 
 bool SablonaEditor::otevrit() {
     if (!muzeZavrit()) return false;
-    const wxString path = prompts().chooseFile(u8("Otevřít šablonu"), wxGetHomeDir(), wxString(), WILDCARD, false, this);
+    const wxString path =
+        prompts().chooseFile(u8("Otevřít šablonu"), wxGetHomeDir(), wxString(), WILDCARD, false, this);
     return !path.empty() && otevrit(path);
 }
 

@@ -3,7 +3,6 @@
 #include <wx/checkbox.h>
 #include <wx/textctrl.h>
 
-
 TextDialog::TextDialog(wxWindow* parent, TextElement& element) : PrvekDialog(parent, "Text"), m_element(element) {
     m_value = addText("Text:", "hodnota", 320);
     m_value->ChangeValue(element.value);

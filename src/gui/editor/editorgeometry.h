@@ -70,8 +70,7 @@ DOCSECTION sectionAt(const Bands& bands, double y);
 // Which element a click at `mm` hits: the last drawn (topmost) whose shape it touches, or -1.
 // A line is hit near its stroke and a rectangle near its outline, so a click inside a
 // frame reaches the texts it surrounds; the others are hit inside their bounds.
-int hitTest(const std::vector<const Element*>& elements, const wxRealPoint& mm,
-            double tolerance = HIT_TOLERANCE_MM);
+int hitTest(const std::vector<const Element*>& elements, const wxRealPoint& mm, double tolerance = HIT_TOLERANCE_MM);
 // The same for elements given by kind and bounds (and the ends of a line).
 struct Shape {
     int type;

@@ -42,8 +42,7 @@ const std::vector<PlaceholderGroup>& placeholderGroups() {
           {"{polozka-sazba}", "Sazba DPH"},
           {"{polozka-dph}", "DPH"},
           {"{polozka-celkem}", "Celkem"}}},
-        {"Rekapitulace DPH",
-         {{"{dph-zaklad}", "Základ"}, {"{dph-dph}", "DPH"}, {"{dph-sazba}", "Sazba"}}},
+        {"Rekapitulace DPH", {{"{dph-zaklad}", "Základ"}, {"{dph-dph}", "DPH"}, {"{dph-sazba}", "Sazba"}}},
     };
     return groups;
 }

@@ -87,23 +87,32 @@ Document vychoziSablona() {
                {"Datum vystavení: {faktura-vystaveni}", "Datum splatnosti: {faktura-splatnost}",
                 "Datum zdanitelného plnění: {faktura-duzp}", "Forma úhrady: {faktura-uhrada}"});
     t.odstavec(H2, 102, 60, 88,
-               {"Bankovní účet: {faktura-banka}", "Variabilní symbol: {faktura-vs}",
-                "Konstantní symbol: {faktura-ks}", "Specifický symbol: {faktura-ss}"});
+               {"Bankovní účet: {faktura-banka}", "Variabilní symbol: {faktura-vs}", "Konstantní symbol: {faktura-ks}",
+                "Specifický symbol: {faktura-ss}"});
 
     t.radek(H3, 80,
-            {{"Popis", 66, L}, {"Počet", 20, R}, {"MJ", 12, L}, {"Cena MJ", 24, R}, {"DPH %", 14, R},
-             {"DPH", 24, R}, {"Celkem", 30, R}},
+            {{"Popis", 66, L},
+             {"Počet", 20, R},
+             {"MJ", 12, L},
+             {"Cena MJ", 24, R},
+             {"DPH %", 14, R},
+             {"DPH", 24, R},
+             {"Celkem", 30, R}},
             styl(9, true), true);
     t.radek(DOCSECTION_ITEMS, 86,
-            {{"{polozka-popis}", 66, L}, {"{polozka-pocet}", 20, R}, {"{polozka-mj}", 12, L},
-             {"{polozka-cenamj}", 24, R}, {"{polozka-sazba}", 14, R}, {"{polozka-dph}", 24, R},
+            {{"{polozka-popis}", 66, L},
+             {"{polozka-pocet}", 20, R},
+             {"{polozka-mj}", 12, L},
+             {"{polozka-cenamj}", 24, R},
+             {"{polozka-sazba}", 14, R},
+             {"{polozka-dph}", 24, R},
              {"{polozka-celkem}", 30, R}},
             styl(9), false);
 
     t.text(DOCSECTION_FOOTER1, "Rekapitulace DPH", 0, 94, 0, L, styl(9, true));
     t.radek(DOCSECTION_FOOTER1, 99, {{"Sazba", 30, L}, {"Základ", 40, R}, {"DPH", 40, R}}, styl(9, true), false);
-    t.radek(DOCSECTION_FOOTER2, 104, {{"{dph-sazba}", 30, L}, {"{dph-zaklad}", 40, R}, {"{dph-dph}", 40, R}},
-            styl(9), false);
+    t.radek(DOCSECTION_FOOTER2, 104, {{"{dph-sazba}", 30, L}, {"{dph-zaklad}", 40, R}, {"{dph-dph}", 40, R}}, styl(9),
+            false);
 
     t.cara(DOCSECTION_FOOTER3, 0, 112, 190, 112, 2);
     t.text(DOCSECTION_FOOTER3, "Celkem k úhradě: {faktura-celkem} {faktura-mena}", 190, 115, 0, R, styl(12, true));
