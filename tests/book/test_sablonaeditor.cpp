@@ -218,6 +218,8 @@ TEST_F(TemplateEditor, EachKindIsAddedThroughItsDialogAsTyped) {
     EXPECT_EQ(text->width, 80);
     EXPECT_EQ(text->alignment, wxTEXT_ALIGNMENT_RIGHT);
     EXPECT_EQ(text->section, DOCSECTION_HEADER1);
+    // The picker shows a stand-in where the template's face is missing; the face is kept.
+    EXPECT_EQ(text->textStyle.fontString(), TextStyle().fontString());
 
     auto* para = element<TextParagraphElement>(1);
     ASSERT_TRUE(para);
@@ -301,7 +303,8 @@ TEST_F(TemplateEditor, RefusedInputShowsItsMessageAndKeepsTheDialogOpen) {
 TEST_F(TemplateEditor, KeysAndDragsMoveResizeAndDelete) {
     addOneOfEach();
     SablonaCanvas* canvas = m_editor->canvas();
-    canvas->select(5);  // the rectangle at (100, 10)
+    canvas->setZoom(1.5);  // clicks are mapped through the zoom
+    canvas->select(5);     // the rectangle at (100, 10)
     canvas->key(WXK_RIGHT, false);
     canvas->key(WXK_DOWN, true);
     canvas->key(WXK_UP, false);

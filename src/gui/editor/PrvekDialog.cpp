@@ -4,8 +4,10 @@
 #include <wx/checkbox.h>
 #include <wx/choice.h>
 #include <wx/clrpicker.h>
+#include <wx/fontenum.h>
 #include <wx/fontpicker.h>
 #include <wx/menu.h>
+#include <wx/settings.h>
 #include <wx/sizer.h>
 #include <wx/stattext.h>
 #include <wx/textctrl.h>
@@ -144,8 +146,19 @@ wxTextAttrAlignment PrvekDialog::alignment() const {
 }
 
 void PrvekDialog::addTextStyle(const TextStyle& style) {
-    m_font = new wxFontPickerCtrl(this, wxID_ANY, style.font, wxDefaultPosition, wxDefaultSize, wxFNTP_DEFAULT_STYLE,
+    // A face this system lacks ("Lucida Grande" where it is not installed) cannot be shown by
+    // the picker, so it shows the face that stands in for it; unless another font is picked,
+    // the template keeps the face it had.
+    m_styleFont = style.font;
+    wxFont shown = style.font;
+    if (!wxFontEnumerator::IsValidFacename(shown.GetFaceName()))
+        shown.SetFaceName(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT).GetFaceName());
+    m_font = new wxFontPickerCtrl(this, wxID_ANY, shown, wxDefaultPosition, wxDefaultSize, wxFNTP_DEFAULT_STYLE,
                                   wxDefaultValidator, "pismo");
+    m_font->Bind(wxEVT_FONTPICKER_CHANGED, [this](wxFontPickerEvent& event) {
+        m_fontPicked = true;
+        event.Skip();
+    });
     addField("Písmo:", m_font);
     auto* row = new wxBoxSizer(wxHORIZONTAL);
     m_fontColour = new wxColourPickerCtrl(this, wxID_ANY, style.fontColour, wxDefaultPosition, wxDefaultSize,
@@ -160,7 +173,9 @@ void PrvekDialog::addTextStyle(const TextStyle& style) {
 
 TextStyle PrvekDialog::textStyle() const {
     TextStyle s;
-    if (m_font) s = TextStyle(m_font->GetSelectedFont(), m_fontColour->GetColour(), m_backColour->GetColour());
+    if (m_font)
+        s = TextStyle(m_fontPicked ? m_font->GetSelectedFont() : m_styleFont, m_fontColour->GetColour(),
+                      m_backColour->GetColour());
     return s;
 }
 

@@ -3,6 +3,8 @@
 // and line style pickers, the alignment choice and the placeholder menu that inserts into the dialog's text fields.
 #pragma once
 
+#include <wx/font.h>
+
 #include <memory>
 #include <vector>
 
@@ -68,6 +70,8 @@ class PrvekDialog : public FormDialog {
     wxChoice* m_section = nullptr;
     wxChoice* m_alignment = nullptr;
     wxFontPickerCtrl* m_font = nullptr;
+    wxFont m_styleFont;  // the style's own font, kept unless another is picked
+    bool m_fontPicked = false;
     wxColourPickerCtrl* m_fontColour = nullptr;
     wxColourPickerCtrl* m_backColour = nullptr;
     wxColourPickerCtrl* m_lineColour = nullptr;

@@ -1,8 +1,10 @@
 #include "SablonaCanvas.h"
 
 #include <wx/dcbuffer.h>
+#include <wx/filename.h>
 #include <wx/settings.h>
 
+#include "imageelement.h"
 #include "textmeasure.h"
 
 using namespace editorgeo;
@@ -223,8 +225,10 @@ void SablonaCanvas::draw(wxDC& dc) {
     dc.DrawRectangle(px(GAP_LEFT_MM + l.marginLeft), px(GAP_TOP_MM + l.marginTop),
                      px(A4_WIDTH_MM - l.marginLeft - l.marginRight), px(A4_HEIGHT_MM - l.marginTop - l.marginBottom));
 
-    for (Element* e : m_document->elementsByPage(EDITED_PAGE))
+    for (Element* e : m_document->elementsByPage(EDITED_PAGE)) {
+        if (auto* image = dynamic_cast<ImageElement*>(e)) drawImagePlace(dc, *image);
         e->DrawToDC(&dc, f, GAP_LEFT_MM + l.marginLeft, GAP_TOP_MM + l.marginTop);
+    }
     drawGrips(dc);
 }
 
@@ -252,6 +256,36 @@ void SablonaCanvas::drawBands(wxDC& dc, const Bands& bands) {
         dc.DrawLine(px(1), px(y), px(left + width), px(y));
         dc.DrawText(names[s], px(1), px(y) + 2);
     }
+}
+
+void SablonaCanvas::drawImagePlace(wxDC& dc, const ImageElement& image) {
+    // The pictures the invoice print supplies, and files that cannot be read, print nothing
+    // here; the editor marks their place so that they can be seen, clicked and moved.
+    wxString label;
+    if (image.path == ImageElement::PATH_QR && image.qr.empty())
+        label = "QR platba";
+    else if (image.path == ImageElement::PATH_LOGO)
+        label = "Logo firmy";
+    else if (image.path == ImageElement::PATH_STAMP)
+        label = wxString::FromUTF8("Razítko firmy");
+    else if (image.bounds().m_height <= 0)
+        label = wxFileName(image.path).GetFullName();
+    else
+        return;
+    const double f = lxTextMeasure::mmToPx(1);
+    const lxPrint::Layout& l = m_document->layout;
+    wxRect2DDouble b = image.bounds();
+    if (b.m_height <= 0) b.m_height = b.m_width;
+    const wxRect r(
+        wxPoint(wxRound((GAP_LEFT_MM + l.marginLeft + b.m_x) * f), wxRound((GAP_TOP_MM + l.marginTop + b.m_y) * f)),
+        wxPoint(wxRound((GAP_LEFT_MM + l.marginLeft + b.m_x + b.m_width) * f),
+                wxRound((GAP_TOP_MM + l.marginTop + b.m_y + b.m_height) * f)));
+    dc.SetPen(wxPen(wxColour(128, 128, 128), 1, wxPENSTYLE_SHORT_DASH));
+    dc.SetBrush(wxBrush(wxColour(238, 238, 238)));
+    dc.DrawRectangle(r);
+    dc.SetFont(wxSystemSettings::GetFont(wxSYS_DEFAULT_GUI_FONT));
+    dc.SetTextForeground(wxColour(90, 90, 90));
+    dc.DrawLabel(label, r, wxALIGN_CENTRE);
 }
 
 void SablonaCanvas::drawGrips(wxDC& dc) {

@@ -12,6 +12,8 @@
 #include "document.h"
 #include "editorgeometry.h"
 
+class ImageElement;
+
 class SablonaCanvas : public wxScrolledWindow {
  public:
     SablonaCanvas(wxWindow* parent, Document* document);
@@ -50,6 +52,7 @@ class SablonaCanvas : public wxScrolledWindow {
     void draw(wxDC& dc);
     void drawBands(wxDC& dc, const editorgeo::Bands& bands);
     void drawGrips(wxDC& dc);
+    void drawImagePlace(wxDC& dc, const ImageElement& image);
     wxPoint unscrolled(const wxPoint& px) const;
     void changed();
 

@@ -1,7 +1,6 @@
 #include "SablonaEditor.h"
 
 #include <wx/artprov.h>
-#include <wx/choice.h>
 #include <wx/dcmemory.h>
 #include <wx/filename.h>
 #include <wx/menu.h>
@@ -76,6 +75,7 @@ wxBitmap kindIcon(int type) {
             break;
     }
     dc.SelectObject(wxNullBitmap);
+    bitmap.SetMask(new wxMask(bitmap, *wxWHITE));
     return bitmap;
 }
 
@@ -118,10 +118,20 @@ void SablonaEditor::buildMenu() {
     prvek->Append(ID_UPRAVIT, u8("Upravit prvek…"), u8("Upravit vybraný prvek"));
     prvek->Append(ID_SMAZAT, u8("Smazat prvek"), u8("Smazat vybraný prvek"));
 
+    auto* zobrazeni = new wxMenu;
+    for (size_t i = 0; i < WXSIZEOF(ZOOMS); ++i) {
+        const int id = ID_ZOOM + static_cast<int>(i);
+        zobrazeni->AppendRadioItem(id, wxString::Format("Lupa %d %%", wxRound(ZOOMS[i] * 100)));
+        if (wxRound(ZOOMS[i] * 100) == 100) zobrazeni->Check(id, true);
+        Bind(
+            wxEVT_MENU, [this, zoom = ZOOMS[i]](wxCommandEvent&) { m_canvas->setZoom(zoom); }, id);
+    }
+
     auto* bar = new wxMenuBar;
     bar->Append(soubor, u8("&Soubor"));
     bar->Append(dokument, u8("&Dokument"));
     bar->Append(prvek, u8("&Prvek"));
+    bar->Append(zobrazeni, u8("&Zobrazení"));
     SetMenuBar(bar);
 
     Bind(
@@ -152,7 +162,7 @@ void SablonaEditor::buildMenu() {
 }
 
 void SablonaEditor::buildToolBar() {
-    wxToolBar* tb = CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT | wxTB_TEXT | wxTB_HORZ_LAYOUT);
+    wxToolBar* tb = CreateToolBar(wxTB_HORIZONTAL | wxTB_FLAT | wxTB_TEXT);
     const wxSize size(22, 22);
     tb->AddTool(wxID_NEW, u8("Nový"), wxArtProvider::GetBitmap(wxART_NEW, wxART_TOOLBAR, size), u8("Nová šablona"));
     tb->AddTool(wxID_OPEN, u8("Otevřít"), wxArtProvider::GetBitmap(wxART_FILE_OPEN, wxART_TOOLBAR, size),
@@ -164,16 +174,6 @@ void SablonaEditor::buildToolBar() {
     tb->AddSeparator();
     tb->AddTool(ID_NAHLED, u8("Náhled"), wxArtProvider::GetBitmap(wxART_PRINT, wxART_TOOLBAR, size),
                 u8("Náhled šablony"));
-    tb->AddSeparator();
-    wxArrayString zooms;
-    for (double z : ZOOMS) zooms.push_back(wxString::Format("%d %%", wxRound(z * 100)));
-    auto* zoom = new wxChoice(tb, ID_ZOOM, wxDefaultPosition, wxDefaultSize, zooms, 0, wxDefaultValidator, "lupa");
-    zoom->SetSelection(2);
-    zoom->Bind(wxEVT_CHOICE, [this, zoom](wxCommandEvent&) {
-        const int i = zoom->GetSelection();
-        if (i >= 0 && i < static_cast<int>(WXSIZEOF(ZOOMS))) m_canvas->setZoom(ZOOMS[i]);
-    });
-    tb->AddControl(zoom, u8("Lupa"));
     tb->Realize();
 }
 

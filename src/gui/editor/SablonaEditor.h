@@ -23,7 +23,7 @@ class SablonaEditor : public wxFrame {
         ID_UPRAVIT,
         ID_SMAZAT,
         ID_NAHLED,
-        ID_ZOOM
+        ID_ZOOM  // and the following ids, one a zoom step
     };
 
     explicit SablonaEditor(wxWindow* parent);
