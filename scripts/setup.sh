@@ -10,7 +10,7 @@ libicu-dev libxml2-dev libxml2-utils
 libgtest-dev libgmock-dev libbenchmark-dev wx3.2-i18n
 libssl-dev openssl python3-aiosmtpd
 xvfb xauth poppler-utils zbar-tools sqlite3 imagemagick python3 locales
-dpkg-dev fakeroot file lintian desktop-file-utils appstream"
+dpkg-dev fakeroot file lintian desktop-file-utils appstream gettext"
 
 missing=""
 for p in $PACKAGES; do

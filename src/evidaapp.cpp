@@ -13,8 +13,10 @@
 
 #include "czechlocale.h"
 #include "evidaframe.h"
+#include "lxhelp.h"
 #include "lxsettings.h"
 #include "prompts.h"
+#include "zdroje.h"
 
 wxIMPLEMENT_APP(evidaApp);
 
@@ -70,30 +72,27 @@ bool evidaApp::OnInit() {
     lxSettings::instance()->load();
     wxSystemOptions::SetOption("mac.listctrl.always_use_generic", 1);
     initLocale();
+    m_helpKey = std::make_unique<lxhelp::lxHelpKey>();
 
     auto* frame = new evidaFrame("Evida");
     if (!frame->isLoaded()) {
         frame->Destroy();
         return false;
     }
-    const wxString icon = evidaFrame::resourcesDir() + "/evida.png";
-    if (wxFileName::FileExists(icon)) frame->SetIcon(wxIcon(icon, wxBITMAP_TYPE_PNG));
+    const wxString icon = zdroje::icon();
+    if (!icon.empty()) frame->SetIcon(wxIcon(icon, wxBITMAP_TYPE_PNG));
     frame->Show();
     return true;
 }
 
 void evidaApp::initLocale() {
-    const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
     wxArrayString prefixes;
-    prefixes.Add(exeDir + "/../Resources/locale");
-    prefixes.Add(evidaFrame::resourcesDir() + "/locale");
-#ifdef EVIDA_BUILD_LOCALE_DIR
-    prefixes.Add(EVIDA_BUILD_LOCALE_DIR);
-#endif
+    for (const wxString& dir : zdroje::catalogueDirs()) prefixes.Add(dir);
     m_locale = initCzechLocale(prefixes);
 }
 
 int evidaApp::OnExit() {
+    m_helpKey.reset();
     delete m_checker;
     m_checker = nullptr;
     setPrompts(nullptr);

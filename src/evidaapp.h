@@ -9,6 +9,9 @@
 
 class Prompts;
 class wxLocale;
+namespace lxhelp {
+class lxHelpKey;
+}
 
 class evidaApp : public wxApp {
  public:
@@ -23,6 +26,8 @@ class evidaApp : public wxApp {
     wxSingleInstanceChecker* m_checker = nullptr;
     std::unique_ptr<wxLocale> m_locale;
     std::unique_ptr<Prompts> m_prompts;
+    // F1 in every dialog.
+    std::unique_ptr<lxhelp::lxHelpKey> m_helpKey;
 };
 
 wxDECLARE_APP(evidaApp);

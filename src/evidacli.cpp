@@ -2,6 +2,8 @@
 // checking files. It opens files exactly as the program does, without a display.
 //
 //   evida-cli create FILE   a new company database with the placeholder company
+//   evida-cli demo FILE     a new file with the demo company: a VAT payer with this year's and
+//                           last year's records in every book
 //   evida-cli check FILE    open, check and repair; print the repair report if any
 //   evida-cli info FILE     version and the row count of every table
 //   evida-cli rates FILE DATE
@@ -35,6 +37,9 @@
 //                           the VAT return against the control statement of the period: the
 //                           differences with their documents and the documents the statement
 //                           cannot place; exit status 0 when all agrees, 3 otherwise
+//   evida-cli zdroje        where the help book, the filing schemas and the Czech catalogue
+//                           were found; exit status 1 when one is missing
+//   evida-cli --version     the program's version
 //
 // Messages are Czech; the technical details of a failure (SQLite's and wxWidgets' own English
 // lines) go to the standard error only with --verbose, which may stand anywhere.
@@ -48,6 +53,7 @@
 #include <vector>
 
 #include "companysetup.h"
+#include "demo/ukazka.h"
 #include "dbmodel.h"
 #include "denikimport.h"
 #include "download.h"
@@ -56,7 +62,9 @@
 #include "fakturace/souhrndokladu.h"
 #include "lxformat.h"
 #include "lxsettings.h"
+#include "lxutils.h"
 #include "schema.h"
+#include "zdroje.h"
 
 namespace {
 
@@ -84,16 +92,29 @@ class QuietLog : public wxLog {
 int usage() {
     printErr(wxString::FromUTF8("Použití: evida-cli [--verbose] PŘÍKAZ SOUBOR ...\n"
                                 "  create SOUBOR          nová databáze firmy\n"
+                                "  demo SOUBOR            nová databáze s ukázkovou firmou\n"
                                 "  check SOUBOR           kontrola celistvosti, oprava a zpráva o opravě\n"
                                 "  info SOUBOR            verze a počty řádků tabulek\n"
                                 "  rates SOUBOR DATUM     kurzy ČNB ke dni (DATUM jako RRRR-MM-DD)\n"
                                 "  import SOUBOR CSV      peněžní deník z CSV (všechny řádky, nebo žádný)\n"
                                 "  stav SOUBOR            stav pokladen a bankovních účtů\n"
-                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n") +
+                                "  neuhrazene SOUBOR      neuhrazené faktury, pohledávky a závazky\n"
+                                "  zdroje                 kde jsou nápověda, schémata podání a katalog překladů\n"
+                                "  --version              verze programu\n") +
              evidacli::exportUsage() + "\n" + evidacli::kontrolaUsage() + "\n" + evidacli::importVypisuUsage() + "\n" +
                                 wxString::FromUTF8(
                                 "  --verbose              technické podrobnosti chyb na standardní chybový výstup"));
     return 2;
+}
+
+// The installed files the programs need, each with the path where it was found.
+int zdrojeProgramu() {
+    const wxString chybi = wxString::FromUTF8("nenalezeno");
+    const wxString napoveda = zdroje::helpBook(), schemata = zdroje::xsdDir(), katalog = zdroje::catalogue();
+    print(wxString::FromUTF8("Nápověda: ") + (napoveda.empty() ? chybi : napoveda));
+    print(wxString::FromUTF8("Schémata: ") + (schemata.empty() ? chybi : schemata));
+    print(wxString::FromUTF8("Katalog: ") + (katalog.empty() ? chybi : katalog));
+    return napoveda.empty() || schemata.empty() || katalog.empty() ? 1 : 0;
 }
 
 int create(DbModel& model, const wxString& path) {
@@ -109,6 +130,19 @@ int create(DbModel& model, const wxString& path) {
     const Firma& f = model.firma();
     print(wxString::Format(wxString::FromUTF8("Vytvořena databáze %s: %s, IČ: %s, období %d"), path, f.nazev(), f.ic(),
                            model.currentRok()));
+    return 0;
+}
+
+// The demo company of this year; an existing file is refused and left as it was.
+int demo(DbModel& model, const wxString& path) {
+    const int rok = lxutils::today().GetYear();
+    wxString chyba;
+    if (!ukazka::vytvor(model, path, rok, &chyba)) {
+        printErr(chyba);
+        return 1;
+    }
+    print(wxString::Format(wxString::FromUTF8("Vytvořena ukázková firma %s: %s, období %d a %d"), path,
+                           model.firma().nazev(), rok - 1, rok));
     return 0;
 }
 
@@ -260,6 +294,11 @@ int main(int argc, char** argv) {
     // Where the backups are, for the message about a damaged file.
     lxSettings::instance()->load();
 
+    if (args.size() == 1 && args[0] == "--version") {
+        print(wxString("evida-cli ") + lxutils::EVIDA_VERSION);
+        return 0;
+    }
+    if (args.size() == 1 && args[0] == "zdroje") return zdrojeProgramu();
     if (args.size() < 2) return usage();
     const wxString& command = args[0];
     if (command == "export" && args.size() >= 3) {
@@ -295,6 +334,7 @@ int main(int argc, char** argv) {
     DbModel model(&printer);
     model.initModel();
     if (command == "create") return create(model, path);
+    if (command == "demo") return demo(model, path);
     if (command == "check") return check(model, printer, path);
     if (command == "info") return open(model, path) ? info(model) : 1;
     if (command == "rates") return rates(model, path, args[2]);

@@ -26,10 +26,12 @@
 #include "companysetup.h"
 #include "dbmodel.h"
 #include "lxformat.h"
+#include "lxhelp.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 #include "navigation.h"
 #include "prompts.h"
+#include "zdroje.h"
 
 namespace {
 
@@ -86,22 +88,14 @@ wxRect evidaFrame::initialRect() {
 
 void evidaFrame::placeWindow() { SetSize(initialRect()); }
 
-wxString evidaFrame::resourcesDir() {
-    const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
-    const wxString candidates[] = {exeDir + "/../Resources", exeDir + "/../share/evida",
-                                   wxStandardPaths::Get().GetResourcesDir(), EVIDA_SOURCE_DATA_DIR};
-    for (const wxString& dir : candidates) {
-        if (wxFileName::FileExists(dir + "/help/evida.hhp")) return wxFileName(dir, wxString()).GetAbsolutePath();
-    }
-    return EVIDA_SOURCE_DATA_DIR;
-}
+wxString evidaFrame::resourcesDir() { return zdroje::resourcesDir(); }
 
 evidaFrame::evidaFrame(const wxString& title) : wxFrame(nullptr, wxID_ANY, title) {
     lxSettings* settings = lxSettings::instance();
     m_mgr.SetManagedWindow(this);
     m_help = std::make_unique<wxHtmlHelpController>(wxHF_DEFAULT_STYLE, this);
-    const wxString book = resourcesDir() + "/help/evida.hhp";
-    if (wxFileName::FileExists(book)) m_help->AddBook(wxFileName(book));
+    const wxString book = zdroje::helpBook();
+    if (!book.empty()) m_help->AddBook(wxFileName(book));
 
     createMenuBar();
     CreateStatusBar(3);
@@ -277,8 +271,11 @@ void evidaFrame::onAktualizace(wxCommandEvent&) {
     prompts().info(lxutils::updateMessage(available), u8(INFORMACE), this);
 }
 
+// The page of the book shown, or the contents.
 void evidaFrame::onHelp(wxCommandEvent&) {
-    if (!m_help->DisplayContents()) prompts().info(u8("Nápověda není nainstalována."), u8(INFORMACE), this);
+    const wxString page = m_book ? lxhelp::pageForNavigation(m_book->currentNavigation()) : wxString();
+    const bool shown = page.empty() ? m_help->DisplayContents() : m_help->DisplaySection(page);
+    if (!shown) prompts().info(u8("Nápověda není nainstalována."), u8(INFORMACE), this);
 }
 
 void evidaFrame::onPreferences(wxCommandEvent&) {

@@ -15,6 +15,8 @@
 #include "JizdyCiselnikDialog.h"
 #include "MajetekZavazkyDialog.h"
 #include "NahradaDialog.h"
+#include "OProgramuDialog.h"
+#include "OdeslaneDialog.h"
 #include "OdpiskupinyDialog.h"
 #include "SkladyDialog.h"
 #include "PredkontacesDialog.h"
@@ -84,7 +86,7 @@ const PageItem PAGE_ITEMS[] = {
 // tax, the sent-invoice log, stock-takings, the template editor). Their items are in place
 // and stay disabled until then.
 const int LATER_ITEMS[] = {
-    evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_ODESLANE_FAKTURY,
+    evidaFrame::ID_DAN_Z_PRIJMU,
 };
 
 // The VAT commands, for VAT payers only.
@@ -211,6 +213,8 @@ void evidaFrame::createMenuBar() {
     auto* napoveda = new wxMenu();
     napoveda->Append(wxID_HELP, u8("Nápověda\tF1"));
     napoveda->Append(ID_AKTUALIZACE, u8("Zkontrolovat aktualizace"));
+    napoveda->AppendSeparator();
+    napoveda->Append(wxID_ABOUT, u8("O programu"), u8("Verze programu, datová složka a otevřená firma"));
     bar->Append(napoveda, u8("&Nápověda"));
 
     SetMenuBar(bar);
@@ -238,6 +242,8 @@ void evidaFrame::createMenuBar() {
          ID_PREHLED_MAJETKU);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<InventuryDialog>(this, m_model.get()); }, ID_INVENTURY);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<SkladyDialog>(this, m_model.get()); }, ID_SKLADY);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<OdeslaneDialog>(this, m_model.get()); },
+         ID_ODESLANE_FAKTURY);
     // The item is disabled for other companies; a shortcut must not get round that.
     Bind(
         wxEVT_MENU,
@@ -294,6 +300,7 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onPreferences, this, wxID_PREFERENCES);
     Bind(wxEVT_MENU, &evidaFrame::onHelp, this, wxID_HELP);
     Bind(wxEVT_MENU, &evidaFrame::onAktualizace, this, ID_AKTUALIZACE);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { OProgramuDialog(this).ShowModal(); }, wxID_ABOUT);
     for (const PageItem& item : PAGE_ITEMS) Bind(wxEVT_MENU, &evidaFrame::onPage, this, item.id);
 
     // The menu is disabled without the vehicle log; a shortcut must not get round that.

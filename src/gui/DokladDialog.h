@@ -34,6 +34,8 @@ class DokladDialog : public wxDialog {
     // The document's row (a new one's too, while the dialog is open).
     int dokladId() const { return m_form.id; }
     bool isNovy() const { return m_form.novy; }
+    // Which of the four kinds of document the dialog edits.
+    DruhDokladu druh() const { return m_form.druh; }
 
     // The fields as the model's form. A date or rate whose text does not read names itself
     // in `chyba` with the message in `zprava` (the first such field in the dialog's order).

@@ -1,14 +1,19 @@
 #include "FirmaWizard.h"
 
 #include <wx/filename.h>
+#include <wx/radiobut.h>
 #include <wx/sizer.h>
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
+#include <wx/utils.h>
+
+#include <functional>
 
 #include "FirmaPanel.h"
 #include "clock.h"
 #include "companyfiles.h"
 #include "dbmodel.h"
+#include "demo/ukazka.h"
 #include "lxsettings.h"
 #include "lxutils.h"
 #include "prompts.h"
@@ -16,9 +21,22 @@
 namespace {
 wxString u8(const char* text) { return wxString::FromUTF8(text); }
 
+// The first page: with the demo company chosen it is also the last one, so the wizard's
+// forward button finishes.
+class PrvniStranka : public wxWizardPageSimple {
+ public:
+    PrvniStranka(wxWizard* wizard, std::function<bool()> posledni)
+        : wxWizardPageSimple(wizard), m_posledni(std::move(posledni)) {}
+    wxWizardPage* GetNext() const override { return m_posledni() ? nullptr : wxWizardPageSimple::GetNext(); }
+
+ private:
+    std::function<bool()> m_posledni;
+};
+
 // A page with an explaining line above its fields.
-wxWizardPageSimple* makePage(wxWizard* wizard, const wxString& intro, wxWindow** content) {
-    auto* page = new wxWizardPageSimple(wizard);
+wxWizardPageSimple* makePage(wxWizard* wizard, const wxString& intro, wxWindow** content,
+                             wxWizardPageSimple* page = nullptr) {
+    if (!page) page = new wxWizardPageSimple(wizard);
     auto* sizer = new wxBoxSizer(wxVERTICAL);
     auto* text = new wxStaticText(page, wxID_ANY, intro);
     text->Wrap(420);
@@ -34,11 +52,25 @@ FirmaWizard::FirmaWizard(wxWindow* parent, bool prvniSpusteni)
       m_prvniSpusteni(prvniSpusteni) {
     wxWindow* page = nullptr;
     m_firmaPage = makePage(this,
-                           prvniSpusteni ? u8("Vítejte v programu Evida. Zadejte údaje firmy, jejíž evidenci "
-                                              "budete vést. Další firmy můžete přidat později v menu "
-                                              "Systém – Firma.")
+                           prvniSpusteni ? u8("Vítejte v programu Evida. Založte firmu, jejíž evidenci budete "
+                                              "vést, nebo si program nejdřív vyzkoušejte na ukázkové firmě "
+                                              "s vyplněnými knihami. Další firmy můžete přidat později "
+                                              "v menu Systém – Firma.")
                                          : u8("Zadejte údaje nové firmy. Název a IČ jsou povinné."),
-                           &page);
+                           &page, prvniSpusteni ? new PrvniStranka(this, [this] { return ukazka(); }) : nullptr);
+    if (prvniSpusteni) {
+        // Someone who first wants to look around gets a company with filled books instead.
+        m_nova = new wxRadioButton(page, wxID_ANY, u8("Založit novou firmu"), wxDefaultPosition, wxDefaultSize,
+                                   wxRB_GROUP, wxDefaultValidator, "nova");
+        m_ukazka = new wxRadioButton(page, wxID_ANY, u8("Vytvořit ukázkovou firmu"), wxDefaultPosition,
+                                     wxDefaultSize, 0, wxDefaultValidator, "ukazka");
+        m_ukazka->SetToolTip(u8("Plátce DPH s doklady za minulý a letošní rok, na kterém si program vyzkoušíte"));
+        m_nova->SetValue(true);
+        page->GetSizer()->Add(m_nova, wxSizerFlags().Border(wxBOTTOM, 4));
+        page->GetSizer()->Add(m_ukazka, wxSizerFlags().Border(wxBOTTOM, 10));
+        m_nova->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { onVolba(); });
+        m_ukazka->Bind(wxEVT_RADIOBUTTON, [this](wxCommandEvent&) { onVolba(); });
+    }
     m_identity = new FirmaPanel(page, FirmaPanel::IDENTITY);
     page->GetSizer()->Add(m_identity, wxSizerFlags(1).Expand());
 
@@ -72,9 +104,30 @@ wxString FirmaWizard::check() const {
     return companyfiles::firmaError(firma.nazev(), firma.ic());
 }
 
+bool FirmaWizard::ukazka() const { return m_ukazka && m_ukazka->GetValue(); }
+
+void FirmaWizard::onVolba() {
+    // The demo needs no data of the user's company: its fields rest and the next step is the end.
+    m_identity->Enable(!ukazka());
+    if (wxWindow* dalsi = FindWindow(wxID_FORWARD))
+        dalsi->SetLabel(ukazka() ? wxGetTranslation("&Finish") : wxGetTranslation("&Next >"));
+}
+
+bool FirmaWizard::vytvorUkazku() {
+    DbModel* model = DbModel::instance();
+    wxString chyba;
+    {
+        wxBusyCursor busy;
+        if (model && ukazka::vytvorFirmu(*model, lxutils::today().GetYear(), &chyba)) return true;
+    }
+    prompts().error(chyba.empty() ? u8("Nepodařilo se vytvořit databázi nové firmy") : chyba, u8("Informace"),
+                    GetParent());
+    return false;
+}
+
 void FirmaWizard::onPageChanging(wxWizardEvent& event) {
     // Going back is always allowed; going on needs a name and an IČ no other company has.
-    if (!event.GetDirection() || event.GetPage() != m_firmaPage) return;
+    if (!event.GetDirection() || event.GetPage() != m_firmaPage || ukazka()) return;
     const wxString error = check();
     if (error.empty()) return;
     prompts().info(error, u8("Informace"), this);
@@ -84,6 +137,7 @@ void FirmaWizard::onPageChanging(wxWizardEvent& event) {
 bool FirmaWizard::run() {
     m_identity->focusFirst();
     if (!RunWizard(m_firmaPage)) return false;
+    if (ukazka()) return vytvorUkazku();
     const wxString error = check();
     if (!error.empty()) {
         prompts().info(error, u8("Informace"), GetParent());

@@ -1,11 +1,13 @@
 // The wizard that creates a company: its identity, its address and contacts, and its first
 // accounting year. On Finish it creates the company's database, lists it in the settings
-// and leaves it open. Run at the first start (no company yet) and from "Přidat firmu".
+// and leaves it open. Run at the first start (no company yet) and from "Přidat firmu". At the
+// first start it also offers the demo company instead, made and opened on Finish.
 #pragma once
 
 #include <wx/wizard.h>
 
 class FirmaPanel;
+class wxRadioButton;
 class wxSpinCtrl;
 class wxWizardPageSimple;
 
@@ -20,6 +22,10 @@ class FirmaWizard : public wxWizard {
  private:
     void onPageChanging(wxWizardEvent& event);
     wxString check() const;
+    // The first start's choice of the demo company instead of a new one.
+    bool ukazka() const;
+    void onVolba();
+    bool vytvorUkazku();
 
     bool m_prvniSpusteni;
     wxWizardPageSimple* m_firmaPage;
@@ -28,4 +34,6 @@ class FirmaWizard : public wxWizard {
     FirmaPanel* m_identity;
     FirmaPanel* m_adresa;
     wxSpinCtrl* m_rok;
+    wxRadioButton* m_nova = nullptr;
+    wxRadioButton* m_ukazka = nullptr;
 };

@@ -6,6 +6,7 @@
 #include <wx/spinctrl.h>
 #include <wx/stattext.h>
 
+#include "EmailPanel.h"
 #include "RadyPanel.h"
 #include "dbmodel.h"
 #include "lxsettings.h"
@@ -47,6 +48,9 @@ PreferencesDialog::PreferencesDialog(wxWindow* parent) {
     m_rady = new RadyPanel(GetBookCtrl());
     GetBookCtrl()->AddPage(m_rady, u8("Číselné řady"));
 
+    m_email = new EmailPanel(GetBookCtrl());
+    GetBookCtrl()->AddPage(m_email, u8("E-mail"));
+
     // The standard buttons speak Czech whatever catalogue is loaded.
     if (wxWindow* cancel = FindWindow(wxID_CANCEL)) cancel->SetLabel(u8("Zrušit"));
     LayoutDialog();
@@ -70,5 +74,5 @@ bool PreferencesDialog::save() {
     }
     // New invoices of this run take the new default at once.
     lxSettings::instance()->setSplatnost(settings.splatnost());
-    return true;
+    return m_email->save();
 }

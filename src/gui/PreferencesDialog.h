@@ -1,9 +1,11 @@
 // The preferences editor: the page "Fakturace" (default number of days to the due date,
-// per accounting year) and the page "Číselné řady" (the number series).
+// per accounting year), the page "Číselné řady" (the number series) and the page "E-mail"
+// (the SMTP settings of invoice e-mails).
 #pragma once
 
 #include <wx/propdlg.h>
 
+class EmailPanel;
 class RadyPanel;
 class wxSpinCtrl;
 
@@ -11,11 +13,13 @@ class PreferencesDialog : public wxPropertySheetDialog {
  public:
     explicit PreferencesDialog(wxWindow* parent);
 
-    // Stores the default due days of the current year (OK does this).
+    // Stores the default due days of the current year and the e-mail settings (OK does this).
     bool save();
     RadyPanel* radyPanel() const { return m_rady; }
+    EmailPanel* emailPanel() const { return m_email; }
 
  private:
     wxSpinCtrl* m_splatnost = nullptr;
     RadyPanel* m_rady = nullptr;
+    EmailPanel* m_email = nullptr;
 };

@@ -6,11 +6,15 @@
 #include <wx/display.h>
 #include <wx/ffile.h>
 #include <wx/filename.h>
+#include <wx/html/helpfrm.h>
+#include <wx/html/helpwnd.h>
+#include <wx/html/htmlwin.h>
 #include <wx/menu.h>
 #include <wx/toolbar.h>
 #include <wx/treectrl.h>
 #include <wx/utils.h>
 
+#include "OProgramuDialog.h"
 #include "book/lxbook.h"
 #include "controls/lxdatectrl.h"
 #include "book/lxbookpage.h"
@@ -103,7 +107,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
         {"Jí&zdy",
          "Kniha jízd|Vozidla|Řidiči|Pohonné hmoty|Druhy vozidel a sazby náhrad|Náhrada za použití vozidla"},
         {"Ú&pravy", "Datum aplikace\tAlt-D|Editor šablon|Nastavení..."},
-        {"&Nápověda", "Nápověda\tF1|Zkontrolovat aktualizace"},
+        {"&Nápověda", "Nápověda\tF1|Zkontrolovat aktualizace|O programu"},
     };
     ASSERT_EQ(bar->GetMenuCount(), std::size(expected));
     for (size_t i = 0; i < bar->GetMenuCount(); ++i) {
@@ -119,7 +123,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
 
     // Commands of later parts are there but disabled, as are the VAT ones for a non-payer.
     for (int id : std::initializer_list<int>{
-             evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_ODESLANE_FAKTURY,
+             evidaFrame::ID_DAN_Z_PRIJMU,
              evidaFrame::ID_DPH_PRIZNANI, evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_DPH_SOUHRNNE,
              evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_ULOZENA_PRIZNANI,
              evidaFrame::ID_KONTROLA_PODANI})
@@ -129,7 +133,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
                                              evidaFrame::ID_ADRESAR, evidaFrame::ID_ZALOHOVAT, evidaFrame::ID_OBNOVIT,
                                              evidaFrame::ID_DENIK, evidaFrame::ID_PREDKONTACE, evidaFrame::ID_UHRADY,
                                              evidaFrame::ID_STAV_UCTU, evidaFrame::ID_DATUM, evidaFrame::ID_AKTUALIZACE,
-                                             evidaFrame::ID_INVENTURY, evidaFrame::ID_SKLADY,
+                                             evidaFrame::ID_INVENTURY, evidaFrame::ID_SKLADY, evidaFrame::ID_ODESLANE_FAKTURY,
                                              evidaFrame::ID_ODPISKUPINY, evidaFrame::ID_PREHLED_PRIJMU,
                                              evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_EDITOR_SABLON,
                                              static_cast<int>(wxID_PREFERENCES)})
@@ -407,3 +411,45 @@ TEST_F(MainWindow, ForcedCloseSkipsTheReminderAndTheWindowStoresItsGeometryAndLa
 }
 
 }  // namespace
+
+TEST_F(MainWindow, AboutFromTheHelpMenuNamesTheOpenCompanyFile) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    wxString verze, firma;
+    m_dialogs.then([&](wxDialog* dialog) {
+        auto* about = dynamic_cast<OProgramuDialog*>(dialog);
+        ASSERT_NE(about, nullptr) << dialog->GetTitle();
+        verze = about->verze();
+        firma = about->otevrenaFirma();
+        click(dialog, wxID_OK);
+    });
+    command(wxID_ABOUT);
+    EXPECT_EQ(m_dialogs.titles.back(), u8("O programu"));
+    EXPECT_EQ(verze, lxutils::EVIDA_VERSION);
+    EXPECT_EQ(wxFileName(firma), wxFileName(lxutils::dataDir(), "evida1.db"));
+}
+
+TEST_F(MainWindow, HelpOpensThePageOfTheBookShown) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    auto openedPage = [] {
+        for (wxWindow* w : wxTopLevelWindows) {
+            if (auto* viewer = dynamic_cast<wxHtmlHelpFrame*>(w))
+                return viewer->GetHelpWindow()->GetHtmlWindow()->GetOpenedPage();
+        }
+        return wxString();
+    };
+    const struct {
+        int command;
+        const char* page;
+    } cases[] = {
+        {evidaFrame::ID_POKLADNA, "pokladna.html"},
+        {evidaFrame::ID_FAKTURY_PRIJATE, "fakturyprijate.html"},
+        {evidaFrame::ID_ZASOBY, "sklad.html"},
+    };
+    for (const auto& c : cases) {
+        command(c.command);
+        command(wxID_HELP);
+        EXPECT_TRUE(openedPage().EndsWith(c.page)) << c.page << ": " << openedPage();
+    }
+}

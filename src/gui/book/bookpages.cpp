@@ -11,6 +11,7 @@
 #include "VypisImportDialog.h"
 #include "UhradyDialog.h"
 #include "bookshapes.h"
+#include "SendEmailDialog.h"
 #include "fakturatisk.h"
 #include "denikexport.h"
 #include "lxcsv.h"
@@ -215,8 +216,10 @@ void addDokladCommands(lxBookPage* page) {
     page->setAction(BOOK_DELETE, [page](int id) { deleteDoklad(page, id); });
     page->addRowCommand(u8("Zaplatit"), u8("Zadat úhradu vybraného dokladu"), wxART_TICK_MARK,
                         [page](int id) { zaplatitDoklad(page, id); });
+    // On the issued invoices the toolbar's room goes to sending the invoice; the payments
+    // stay in the context menu there.
     page->addRowCommand(u8("Úhrady"), u8("Zobrazit úhrady vybraného dokladu"), wxART_LIST_VIEW,
-                        [page](int id) { uhradyDokladu(page, id); });
+                        [page](int id) { uhradyDokladu(page, id); }, page->navigation() != NAV_FAKTURY_VYDANE);
     // A receivable or liability prints as a document of its own (invoices get their print with
     // the invoice layouts); offered in the context menu, the toolbar being full.
     if (!isFakturaStranka(page->navigation()))
@@ -227,6 +230,9 @@ void addDokladCommands(lxBookPage* page) {
     if (page->navigation() == NAV_FAKTURY_VYDANE)
         page->addRowCommand(u8("Tisk faktury"), u8("Vytisknout, zobrazit nebo uložit vybranou fakturu"), wxART_PRINT,
                             [page](int id) { tiskFaktury(page, id); }, false);
+    if (page->navigation() == NAV_FAKTURY_VYDANE)
+        page->addRowCommand(u8("Odeslat"), u8("Odeslat vybranou fakturu e-mailem jako PDF"), wxART_GO_FORWARD,
+                            [page](int id) { odeslatFakturu(page, id); });
 }
 
 }  // namespace

@@ -12,10 +12,7 @@
 #include <map>
 
 #include "lxutils.h"
-
-#ifndef EVIDA_SOURCE_DATA_DIR
-#define EVIDA_SOURCE_DATA_DIR ""
-#endif
+#include "zdroje.h"
 
 namespace {
 
@@ -269,17 +266,7 @@ bool Podani::readFromXml(const wxString& path, wxString* error) {
 
 namespace lxutils {
 
-wxString xsdDir() {
-    wxString env;
-    if (wxGetEnv("EVIDA_XSD_DIR", &env) && !env.empty()) return env;
-    const wxString exeDir = wxFileName(wxStandardPaths::Get().GetExecutablePath()).GetPath();
-    const wxString candidates[] = {exeDir + "/../share/evida/xsd", exeDir + "/../Resources/xsd",
-                                   wxString(EVIDA_SOURCE_DATA_DIR) + "/xsd"};
-    for (const wxString& dir : candidates) {
-        if (wxFileName::FileExists(dir + "/dphdp3_epo2.xsd")) return wxFileName(dir, wxString()).GetAbsolutePath();
-    }
-    return wxString(EVIDA_SOURCE_DATA_DIR) + "/xsd";
-}
+wxString xsdDir() { return zdroje::xsdDir(); }
 
 namespace {
 
