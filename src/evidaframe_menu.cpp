@@ -24,6 +24,7 @@
 #include "KontrolaPodaniDialog.h"
 #include "SeznamDphDialog.h"
 #include "VypisImportDialog.h"
+#include "editor/SablonaEditor.h"
 #include "book/lxbook.h"
 #include "dbmodel.h"
 #include "evidaframe.h"
@@ -85,7 +86,7 @@ const PageItem PAGE_ITEMS[] = {
 // tax, the sent-invoice log, stock-takings, the template editor). Their items are in place
 // and stay disabled until then.
 const int LATER_ITEMS[] = {
-    evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_EDITOR_SABLON,
+    evidaFrame::ID_DAN_Z_PRIJMU,
 };
 
 // The VAT commands, for VAT payers only.
@@ -230,6 +231,7 @@ void evidaFrame::createMenuBar() {
     Bind(wxEVT_MENU, &evidaFrame::onAdresar, this, ID_ADRESAR);
     Bind(wxEVT_MENU, &evidaFrame::onStavUctu, this, ID_STAV_UCTU);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { VypisImportDialog(this).ShowModal(); }, ID_IMPORT_VYPISU);
+    Bind(wxEVT_MENU, [this](wxCommandEvent&) { (new SablonaEditor(this))->Show(); }, ID_EDITOR_SABLON);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<PredkontacesDialog>(this, m_model.get()); }, ID_PREDKONTACE);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<FauhradyDialog>(this, m_model.get()); }, ID_UHRADY);
     Bind(wxEVT_MENU, [this](wxCommandEvent&) { showCodeList<OdpiskupinyDialog>(this, m_model.get()); },

@@ -20,6 +20,8 @@
 #include "book/lxbookpage.h"
 #include "book/lxlistctrl.h"
 #include "dbmodel.h"
+#include "editor/SablonaEditor.h"
+#include "editor/vychozisablona.h"
 #include "fakturace/dokladform.h"
 #include "httpserver.h"
 #include "lxsettings.h"
@@ -121,7 +123,7 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
 
     // Commands of later parts are there but disabled, as are the VAT ones for a non-payer.
     for (int id : std::initializer_list<int>{
-             evidaFrame::ID_DAN_Z_PRIJMU, evidaFrame::ID_EDITOR_SABLON,
+             evidaFrame::ID_DAN_Z_PRIJMU,
              evidaFrame::ID_DPH_PRIZNANI, evidaFrame::ID_DPH_KONTROLNI, evidaFrame::ID_DPH_SOUHRNNE,
              evidaFrame::ID_DPH_SEZNAM, evidaFrame::ID_CLENENI_DPH, evidaFrame::ID_ULOZENA_PRIZNANI,
              evidaFrame::ID_KONTROLA_PODANI})
@@ -133,9 +135,24 @@ TEST_F(MainWindow, MenusHoldEveryCommandWithMnemonicsAndKeptSpellings) {
                                              evidaFrame::ID_STAV_UCTU, evidaFrame::ID_DATUM, evidaFrame::ID_AKTUALIZACE,
                                              evidaFrame::ID_INVENTURY, evidaFrame::ID_SKLADY, evidaFrame::ID_ODESLANE_FAKTURY,
                                              evidaFrame::ID_ODPISKUPINY, evidaFrame::ID_PREHLED_PRIJMU,
-                                             evidaFrame::ID_PREHLED_MAJETKU,
+                                             evidaFrame::ID_PREHLED_MAJETKU, evidaFrame::ID_EDITOR_SABLON,
                                              static_cast<int>(wxID_PREFERENCES)})
         EXPECT_TRUE(bar->IsEnabled(id)) << id;
+}
+
+TEST_F(MainWindow, TemplateEditorOpensFromTheMenuWithTheStarterInvoice) {
+    addCompany("evida1.db", "Alfa", "1");
+    ASSERT_TRUE(start()->isLoaded());
+    wxCommandEvent menu(wxEVT_MENU, evidaFrame::ID_EDITOR_SABLON);
+    m_frame->ProcessWindowEvent(menu);
+    SablonaEditor* editor = nullptr;
+    for (wxWindow* w : wxTopLevelWindows)
+        if (auto* e = dynamic_cast<SablonaEditor*>(w)) editor = e;
+    ASSERT_NE(editor, nullptr);
+    EXPECT_TRUE(editor->IsShown());
+    EXPECT_EQ(editor->document().count(), vychoziSablona().count());
+    EXPECT_EQ(editor->GetTitle(), u8("Editor šablon – Nová šablona"));
+    editor->Destroy();
 }
 
 TEST_F(MainWindow, NavigationTreeSelectsPagesAndDropsTheVehicleLogForFlatRateExpenses) {
