@@ -25,6 +25,7 @@
 #include "companyfiles.h"
 #include "companysetup.h"
 #include "dbmodel.h"
+#include "editor/SablonaEditor.h"
 #include "lxformat.h"
 #include "lxhelp.h"
 #include "lxsettings.h"
@@ -306,6 +307,17 @@ void evidaFrame::onUlozenaPriznani(wxCommandEvent&) {
 void evidaFrame::onQuit(wxCommandEvent&) { Close(); }
 
 void evidaFrame::onClose(wxCloseEvent& event) {
+    // An open template editor with unsaved changes asks first; its answer may keep the
+    // program open.
+    if (event.CanVeto()) {
+        for (wxWindow* child : GetChildren()) {
+            auto* editor = dynamic_cast<SablonaEditor*>(child);
+            if (editor && !editor->muzeZavrit()) {
+                event.Veto();
+                return;
+            }
+        }
+    }
     lxSettings* settings = lxSettings::instance();
     if (event.CanVeto() && m_loaded && lxutils::isZalohaDue(settings->lastBackup())) {
         ZalohaDialog reminder(this, settings->lastBackup());

@@ -20,6 +20,7 @@
 #include "book/lxbookpage.h"
 #include "book/lxlistctrl.h"
 #include "dbmodel.h"
+#include "editor/SablonaCanvas.h"
 #include "editor/SablonaEditor.h"
 #include "editor/vychozisablona.h"
 #include "fakturace/dokladform.h"
@@ -152,6 +153,16 @@ TEST_F(MainWindow, TemplateEditorOpensFromTheMenuWithTheStarterInvoice) {
     EXPECT_TRUE(editor->IsShown());
     EXPECT_EQ(editor->document().count(), vychoziSablona().count());
     EXPECT_EQ(editor->GetTitle(), u8("Editor šablon – Nová šablona"));
+    // Quitting the program with an unsaved template asks; "save" without a file chosen keeps
+    // the program open with the changes.
+    editor->canvas()->select(0);
+    editor->smazat();
+    ASSERT_TRUE(editor->isModified());
+    m_prompts.answerQuestion(true);
+    EXPECT_FALSE(m_frame->Close());
+    EXPECT_FALSE(m_frame->IsBeingDeleted());
+    EXPECT_TRUE(editor->isModified());
+    EXPECT_EQ(m_prompts.shown().front().text, u8("Šablona byla změněna. Uložit změny?"));
     editor->Destroy();
 }
 
