@@ -120,6 +120,12 @@ void SendEmailDialog::OnOk() {
     }
     prompts().info(u8("Email úspěšně odeslán"), u8("Informace"), this);
     if (DbModel* model = openModel()) {
+        // The connection that worked is kept for the next invoice; the default subject and
+        // text stay as the preferences have them.
+        Smtp pouzite = m_fields->smtp();
+        pouzite.setSubject(model->smtp().subject());
+        pouzite.setText(model->smtp().text());
+        model->setSmtp(pouzite);
         const Odeslany odeslany(model->getLastId("odeslany"), wxDateTime::Now(), m_faktura.cislo(), prijemce);
         if (!model->addOdeslany(odeslany))
             prompts().info(u8("Odeslání se nepodařilo zapsat do seznamu odeslaných faktur"), u8("Informace"), this);

@@ -160,6 +160,13 @@ TEST_F(EmailTest, SendsInvoicePdfAndLogsIt) {
     // The PDF was made for the message only and is gone.
     EXPECT_FALSE(wxFileName::FileExists(DocumentPrint::pdfFolder() + "/" + m_cislo + ".pdf"));
 
+    // The connection that worked is remembered, the default subject is not replaced.
+    const Smtp stored = m_model->smtp();
+    EXPECT_EQ(stored.server(), "127.0.0.1");
+    EXPECT_EQ(stored.port(), server.port());
+    EXPECT_NE(stored.password(), u8("Heslo-ř"));
+    EXPECT_NE(stored.subject(), u8("Faktura č. ") + m_cislo);
+
     const lxOdeslanyArray log = m_model->odeslane();
     ASSERT_EQ(log.size(), 1u);
     EXPECT_EQ(log[0]->faktura(), m_cislo);
