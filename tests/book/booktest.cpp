@@ -1,6 +1,8 @@
 #include "booktest.h"
 
 #include <wx/app.h>
+#include <wx/ffile.h>
+#include <wx/prntbase.h>
 #include <wx/button.h>
 #include <wx/listctrl.h>
 #include <wx/radiobut.h>
@@ -183,4 +185,26 @@ wxArrayString listTexts(wxListCtrl* list, int column) {
     wxArrayString texts;
     for (long i = 0; i < list->GetItemCount(); ++i) texts.Add(list->GetItemText(i, column));
     return texts;
+}
+
+std::string fileBytes(const wxString& path) {
+    wxFFile file(path, "rb");
+    std::string out;
+    if (!file.IsOpened()) return out;
+    out.resize(static_cast<size_t>(file.Length()));
+    if (!out.empty()) file.Read(out.data(), out.size());
+    return out;
+}
+
+void waitFor(const std::function<bool()>& done, int rounds) {
+    for (int i = 0; i < rounds && !done(); ++i) {
+        wxYield();
+        wxMilliSleep(20);
+    }
+}
+
+wxPreviewFrame* shownPreview() {
+    for (wxWindow* t : wxTopLevelWindows)
+        if (auto* f = dynamic_cast<wxPreviewFrame*>(t); f && f->IsShown() && !f->IsBeingDeleted()) return f;
+    return nullptr;
 }

@@ -9,6 +9,7 @@
 #include <wx/dialog.h>
 
 #include <functional>
+#include <string>
 #include <memory>
 
 #include "dbmodel.h"
@@ -64,6 +65,13 @@ Outcome fillAndOk(wxDialog& dialog, const std::function<void(wxDialog*)>& person
 // With EVIDA_SCREENSHOTS naming a directory, the dialog is shown and the screen saved there
 // as `name`.png, for a person to look at.
 void screenshot(wxDialog& dialog, const char* name);
+// The bytes of a file; empty when it cannot be read.
+std::string fileBytes(const wxString& path);
+// Lets the windows work (about 20 ms a round) until `done` or about `rounds` rounds.
+void waitFor(const std::function<bool()>& done, int rounds = 150);
+class wxPreviewFrame;
+// The print preview frame on screen, or null.
+wxPreviewFrame* shownPreview();
 
 class BookTest : public ::testing::Test {
  protected:

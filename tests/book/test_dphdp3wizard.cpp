@@ -141,45 +141,34 @@ class Dphdp3WizardRealInput : public Dphdp3WizardTest {};
 TEST_F(Dphdp3WizardRealInput, PreviewFromTheModalWizardTakesClicks) {
     m_frame->Show();
     Dphdp3Wizard w(m_frame, m_model.get());
-    const auto wait = [](const std::function<bool()>& done) {
-        for (int i = 0; i < 150 && !done(); ++i) {
-            wxYield();
-            wxMilliSleep(20);
-        }
-    };
-    const auto preview = []() -> wxPreviewFrame* {
-        for (wxWindow* t : wxTopLevelWindows)
-            if (auto* f = dynamic_cast<wxPreviewFrame*>(t); f && f->IsShown() && !f->IsBeingDeleted()) return f;
-        return nullptr;
-    };
     bool closed = false;
     w.CallAfter([&] {
         wizardNext(w);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphdp3wizard-page2");
         wizardNext(w);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphdp3wizard-page3");
         wizardNext(w);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphdp3wizard-page4");
         ASSERT_EQ(w.GetCurrentPage(), w.page4());
-        wait([] { return false; });
+        waitFor([] { return false; });
         wxUIActionSimulator sim;
         w.page4()->tisknout();
-        wait([&] { return preview() != nullptr; });
-        wxPreviewFrame* frame = preview();
+        waitFor([&] { return shownPreview() != nullptr; });
+        wxPreviewFrame* frame = shownPreview();
         EXPECT_NE(frame, nullptr) << "the preview did not open";
         if (frame) {
             frame->Bind(wxEVT_CLOSE_WINDOW, [&closed](wxCloseEvent& e) {
                 closed = true;
                 e.Skip();
             });
-            wait([] { return false; });
+            waitFor([] { return false; });
             wxWindow* zavrit = frame->FindWindow(wxID_PREVIEW_CLOSE);
             sim.MouseMove(zavrit->GetScreenRect().GetPosition() + wxPoint(8, 8));
             sim.MouseClick();
-            wait([&closed] { return closed; });
+            waitFor([&closed] { return closed; });
             if (!closed) frame->Destroy();
         }
         if (w.IsModal()) w.EndModal(wxID_CANCEL);  // a screenshot hides the wizard, which ends it

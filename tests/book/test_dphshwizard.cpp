@@ -43,15 +43,6 @@ std::vector<std::string> radky(ShPage3* page) {
     return out;
 }
 
-std::string bytes(const wxString& path) {
-    wxFFile file(path, "rb");
-    std::string out;
-    if (!file.IsOpened()) return out;
-    out.resize(static_cast<size_t>(file.Length()));
-    file.Read(out.data(), out.size());
-    return out;
-}
-
 void vybratRadek(ShPage3* page, int index) {
     page->list()->SetItemState(index, wxLIST_STATE_SELECTED, wxLIST_STATE_SELECTED);
 }
@@ -149,8 +140,8 @@ TEST_F(DphshWizardTest, RowsPerCustomerAndCodeInCrownsRoundedUpExportedAndSaved)
     const wxString path = m_home + "/hlaseni";
     m_prompts.answerPath(path);
     pressButton(w.page4(), "export");
-    EXPECT_EQ(lxutils::validateXml(bytes(path + ".xml"), lxutils::xsdDir() + "/dphshv_epo2.xsd"), "");
-    EXPECT_EQ(bytes(path + ".xml"), p.createXml());
+    EXPECT_EQ(lxutils::validateXml(fileBytes(path + ".xml"), lxutils::xsdDir() + "/dphshv_epo2.xsd"), "");
+    EXPECT_EQ(fileBytes(path + ".xml"), p.createXml());
 
     m_prompts.clear();
     m_prompts.answerQuestion(true);
@@ -334,46 +325,35 @@ class DphshWizardRealInput : public DphshWizardTest {};
 TEST_F(DphshWizardRealInput, PagesAndThePreviewFromTheModalWizard) {
     m_frame->Show();
     DphshWizard w(m_frame, m_model.get());
-    const auto wait = [](const std::function<bool()>& done) {
-        for (int i = 0; i < 150 && !done(); ++i) {
-            wxYield();
-            wxMilliSleep(20);
-        }
-    };
-    const auto preview = []() -> wxPreviewFrame* {
-        for (wxWindow* t : wxTopLevelWindows)
-            if (auto* f = dynamic_cast<wxPreviewFrame*>(t); f && f->IsShown() && !f->IsBeingDeleted()) return f;
-        return nullptr;
-    };
     bool closed = false;
     w.CallAfter([&] {
         choose(field<wxChoice>(w.page1(), "mesic"), 2);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphshwizard-page1");
         wizardNext(w);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphshwizard-page2");
         wizardNext(w);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphshwizard-page3");
         {
             DphshVetarDialog d(&w, w.dphshv(), 0);
             screenshot(d, "dphshwizard-radek");
         }
         wizardNext(w);
-        wait([] { return false; });
+        waitFor([] { return false; });
         screenshot(w, "dphshwizard-page4");
         ASSERT_EQ(w.GetCurrentPage(), w.page4());
         w.page4()->tisknout();
-        wait([&] { return preview() != nullptr; });
-        wxPreviewFrame* frame = preview();
+        waitFor([&] { return shownPreview() != nullptr; });
+        wxPreviewFrame* frame = shownPreview();
         EXPECT_NE(frame, nullptr) << "the preview did not open";
         if (frame) {
             frame->Bind(wxEVT_CLOSE_WINDOW, [&closed](wxCloseEvent& e) {
                 closed = true;
                 e.Skip();
             });
-            wait([] { return false; });
+            waitFor([] { return false; });
             wxString dir;
             if (wxGetEnv("EVIDA_SCREENSHOTS", &dir) && !dir.empty())
                 wxExecute("import -window root " + dir + "/dphshwizard-preview.png", wxEXEC_SYNC);
@@ -381,7 +361,7 @@ TEST_F(DphshWizardRealInput, PagesAndThePreviewFromTheModalWizard) {
             wxWindow* zavrit = frame->FindWindow(wxID_PREVIEW_CLOSE);
             sim.MouseMove(zavrit->GetScreenRect().GetPosition() + wxPoint(8, 8));
             sim.MouseClick();
-            wait([&closed] { return closed; });
+            waitFor([&closed] { return closed; });
             if (!closed) frame->Destroy();
         }
         if (w.IsModal()) w.EndModal(wxID_CANCEL);

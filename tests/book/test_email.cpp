@@ -189,12 +189,7 @@ TEST_F(EmailTest, SendsInvoicePdfAndLogsIt) {
         "jemce\"\r\n\"" +
         std::string(log[0]->cas().Format("%x %X").utf8_str()) + "\";\"" + std::string(m_cislo.utf8_str()) +
         "\";\"nakup@odberatel.cz\"\r\n";
-    wxFFile f(csv, "rb");
-    std::string written;
-    ASSERT_TRUE(f.IsOpened());
-    written.resize(static_cast<size_t>(f.Length()));
-    f.Read(&written[0], written.size());
-    EXPECT_EQ(written, expected);
+    EXPECT_EQ(fileBytes(csv), expected);
 }
 
 // A transfer that fails shows libcurl's text under "Email Error!", logs nothing and leaves the

@@ -19,13 +19,6 @@ using ::testing::HasSubstr;
 
 namespace {
 
-std::string readBytes(const wxString& path) {
-    wxFFile file(path, "rb");
-    std::string bytes(static_cast<size_t>(file.Length()), '\0');
-    file.Read(&bytes[0], bytes.size());
-    return bytes;
-}
-
 std::string utf8(const char* text) { return std::string(text); }
 
 const char* const DENIK_HEADER =
@@ -87,13 +80,13 @@ TEST(CsvFile, VisibleColumnsWithSemicolonsBomCrlfAndUngroupedAmounts) {
     rows.setRows(std::move(loaded));
     const wxString path = wxFileName::CreateTempFileName("evida-csv");
     ASSERT_TRUE(lxcsv::write(path, rows));
-    EXPECT_EQ(readBytes(path),
+    EXPECT_EQ(fileBytes(path),
               utf8("\xEF\xBB\xBF"
                    "\"Datum\";\"Číslo dokladu\";\"Popis\";\"Částka\";\"Typ\";\"Pokladna\"\r\n"
                    "\"02.03.2024\";\"D1\";\"Prodej; \"\"velký\"\"\";\"31458,00\";\"Příjem\";\"POK1\"\r\n"));
 
     ASSERT_TRUE(lxcsv::write(path, rows, lxcsv::Kodovani::WINDOWS1250));
-    const std::string cp = readBytes(path);
+    const std::string cp = fileBytes(path);
     EXPECT_EQ(cp.substr(0, 10), "\"Datum\";\"\xC8") << "no mark, Č is 0xC8";
     EXPECT_THAT(cp, HasSubstr("\"P\xF8\xEDjem\""));
     wxRemoveFile(path);
@@ -112,7 +105,7 @@ TEST(CsvFile, CharactersWindows1250LacksBecomeQuestionMarks) {
             return f;
         },
         lxcsv::Kodovani::WINDOWS1250));
-    EXPECT_EQ(readBytes(path), "\"Popis\"\r\n\"\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \x80 ?\"\r\n");
+    EXPECT_EQ(fileBytes(path), "\"Popis\"\r\n\"\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2 \x80 ?\"\r\n");
     wxRemoveFile(path);
 }
 
@@ -134,7 +127,7 @@ TEST_F(JournalExport, WholeEntriesInTheShownOrderAndSaysWhereSaved) {
     m_prompts.answerPath(m_home + u8("/deník"));
     m_page->exportCsv();
     EXPECT_EQ(
-        readBytes(m_home + u8("/deník.csv")),
+        fileBytes(m_home + u8("/deník.csv")),
         utf8("\xEF\xBB\xBF") + DENIK_HEADER +
             "\"15.02.2024\";\"D002\";\"materiál\";\"300,00\";\"BU1\";\"V001\";\"\";\"\";\"\";\"7\";\"\";\"\";\"\"\r\n"
             "\"02.03.2024\";\"D001\";\"Prodej zboží\";\"1200,50\";\"POK1\";\"P001\";\"\";\"\";\"\";\"\";\"\";\"\";"
@@ -148,7 +141,7 @@ TEST_F(JournalExport, WholeEntriesInTheShownOrderAndSaysWhereSaved) {
     m_prompts.answerPath(m_home + "/cp.csv");
     m_prompts.answerFileType(1);
     m_page->exportCsv();
-    const std::string cp = readBytes(m_home + "/cp.csv");
+    const std::string cp = fileBytes(m_home + "/cp.csv");
     EXPECT_EQ(cp.substr(0, 14), "\"Datum\";\"\xC8\xEDslo");
     EXPECT_THAT(cp, HasSubstr("\"materi\xE1l\""));
 
@@ -166,7 +159,7 @@ TEST_F(JournalExport, FilteredPageExportsOnlyTheShownEntries) {
     m_page->setFilter(prijmy);
     wxString error;
     ASSERT_TRUE(m_page->exportCsv(m_home + "/prijmy.csv", &error)) << error;
-    const std::string csv = readBytes(m_home + "/prijmy.csv");
+    const std::string csv = fileBytes(m_home + "/prijmy.csv");
     EXPECT_THAT(csv, HasSubstr("\"D001\""));
     EXPECT_EQ(csv.find("\"D002\""), std::string::npos);
     EXPECT_EQ(csv.find("\"D003\""), std::string::npos);

@@ -60,14 +60,6 @@ void inDokladDialog(const std::function<void(DokladDialog*)>& person) {
     });
 }
 
-std::string bytes(const wxString& path) {
-    wxFFile file(path, "rb");
-    if (!file.IsOpened()) return std::string();
-    std::string all(static_cast<size_t>(file.Length()), '\0');
-    file.Read(all.data(), all.size());
-    return all;
-}
-
 }  // namespace
 
 class KontrolaDialogTest : public BookTest {
@@ -224,7 +216,7 @@ TEST_F(KontrolaDialogTest, ExportWritesTheShownLinesWithPlainAmounts) {
     zkontrolovat(dialog, 4);
     m_prompts.answerPath(m_home + "/kontrola");  // the extension is added
     EXPECT_EQ(dialog.exportCsv(), m_home + "/kontrola.csv");
-    const std::string csv = bytes(m_home + "/kontrola.csv");
+    const std::string csv = fileBytes(m_home + "/kontrola.csv");
     EXPECT_THAT(
         csv, HasSubstr("\"Doklad\";\"Datum\";\"Základ\";\"Daň\";\"Přiznání\";\"Kontrolní hlášení\";\"Poznámka\"\r\n"));
     EXPECT_THAT(csv, HasSubstr("\"" + m_chybny.cislo.utf8_string() +

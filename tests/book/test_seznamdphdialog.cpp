@@ -23,14 +23,6 @@ using ::testing::StartsWith;
 
 namespace {
 
-std::string bytes(const wxString& path) {
-    wxFFile file(path, "rb");
-    if (!file.IsOpened()) return std::string();
-    std::string all(static_cast<size_t>(file.Length()), '\0');
-    file.Read(all.data(), all.size());
-    return all;
-}
-
 }  // namespace
 
 class SeznamDphDialogTest : public BookTest {
@@ -88,7 +80,7 @@ TEST_F(SeznamDphDialogTest, ExportWritesTheChosenCsvWithDecimalPointsUnderTheCze
     ASSERT_NE(shown("file"), nullptr);
     EXPECT_EQ(shown("file")->text, u8("Exportovat seznam dokladů DPH do"));
     EXPECT_EQ(shown("info"), nullptr);
-    const std::string csv = bytes(m_home + "/seznam.csv");
+    const std::string csv = fileBytes(m_home + "/seznam.csv");
     EXPECT_THAT(csv, StartsWith("\"Dodání zboží nebo poskytnutí služby s místem plnění v tuzemsku"));
     EXPECT_THAT(csv, HasSubstr("\"Služby \"\"A\"\"\",\"FV\",\"CZ27082440\",2500.00,525.00,\"21%\","));
     EXPECT_THAT(csv, HasSubstr("\"Řádky v přiznání: 43,44\"\r\n\"Uskutečněné plnění\"\r\n"));

@@ -64,11 +64,6 @@ class UlozeneList : public BookTest {
         event.SetEventObject(b);
         b->ProcessWindowEvent(event);
     }
-    static wxPreviewFrame* previewFrame() {
-        for (wxWindow* w : wxTopLevelWindows)
-            if (auto* f = dynamic_cast<wxPreviewFrame*>(w); f && f->IsShown() && !f->IsBeingDeleted()) return f;
-        return nullptr;
-    }
     static void closePreviews() {
         std::vector<wxWindow*> frames;
         for (wxWindow* w : wxTopLevelWindows)
@@ -152,7 +147,7 @@ TEST_F(UlozeneList, PreviewOpensTheReturnsPrintAndTellsWhatItCannotShow) {
     UlozeneDialog dialog(m_frame);
     dialog.selectId(priznani);
     click(&dialog, "Náhled přiznání");
-    wxPreviewFrame* frame = previewFrame();
+    wxPreviewFrame* frame = shownPreview();
     ASSERT_NE(frame, nullptr) << m_prompts.transcript();
     EXPECT_EQ(frame->GetTitle(), u8("Přiznání k DPH"));
     int pages = 0;
@@ -173,7 +168,7 @@ TEST_F(UlozeneList, PreviewOpensTheReturnsPrintAndTellsWhatItCannotShow) {
 
     dialog.selectId(hlaseni);
     click(&dialog, "Náhled přiznání");
-    EXPECT_EQ(previewFrame(), nullptr);
+    EXPECT_EQ(shownPreview(), nullptr);
     ASSERT_EQ(m_prompts.shown().size(), 1u);
     // A control statement whose stored text is no statement: the reader says why.
     EXPECT_EQ(m_prompts.shown()[0].text, u8("Soubor neobsahuje podání DPHKH1"));
@@ -186,7 +181,7 @@ TEST_F(UlozeneList, PreviewOpensTheReturnsPrintAndTellsWhatItCannotShow) {
     m_prompts.clear();
     dialog.selectId(priznani);
     click(&dialog, "Náhled přiznání");
-    EXPECT_EQ(previewFrame(), nullptr);
+    EXPECT_EQ(shownPreview(), nullptr);
     ASSERT_EQ(m_prompts.shown().size(), 1u);
     EXPECT_FALSE(m_prompts.shown()[0].text.empty());
 }
@@ -202,31 +197,25 @@ TEST_F(UlozeneListRealInput, PreviewOpenedFromTheListTakesClicks) {
     dialog->ukazat();
     EXPECT_FALSE(m_frame->IsEnabled());  // the list stands in front as a modal one would
     dialog->selectId(id);
-    const auto wait = [](const std::function<bool()>& done) {
-        for (int i = 0; i < 100 && !done(); ++i) {
-            wxYield();
-            wxMilliSleep(20);
-        }
-    };
-    wait([] { return false; });
+    waitFor([] { return false; }, 100);
     wxUIActionSimulator sim;
     wxButton* nahled = button(dialog, "Náhled přiznání");
     sim.MouseMove(nahled->GetScreenRect().GetPosition() + wxPoint(10, 8));
     sim.MouseClick();
-    wait([] { return previewFrame() != nullptr; });
-    wxPreviewFrame* frame = previewFrame();
+    waitFor([] { return shownPreview() != nullptr; }, 100);
+    wxPreviewFrame* frame = shownPreview();
     ASSERT_NE(frame, nullptr);
     bool closed = false;
     frame->Bind(wxEVT_CLOSE_WINDOW, [&closed](wxCloseEvent& event) {
         closed = true;
         event.Skip();
     });
-    wait([] { return false; });
+    waitFor([] { return false; }, 100);
     wxWindow* zavrit = frame->FindWindow(wxID_PREVIEW_CLOSE);
     ASSERT_NE(zavrit, nullptr);
     sim.MouseMove(zavrit->GetScreenRect().GetPosition() + wxPoint(8, 8));
     sim.MouseClick();
-    wait([&closed] { return closed; });
+    waitFor([&closed] { return closed; }, 100);
     EXPECT_TRUE(closed);
     closePreviews();
     dialog->Close();
