@@ -15,6 +15,7 @@
 #include <map>
 
 #include "BankyDialog.h"
+#include "formlayout.h"
 #include "DphDruhyDialog.h"
 #include "KontaktCompleter.h"
 #include "KontaktyDialog.h"
@@ -147,16 +148,13 @@ void DokladDialog::build() {
 
     m_polozky = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(-1, 160), wxLC_REPORT | wxLC_SINGLE_SEL,
                                wxDefaultValidator, "polozky");
-    const struct {
-        const char* title;
-        int width;
-        bool right;
-    } columns[] = {{"Popis", 220, false}, {"MJ", 50, false}, {"Počet", 70, true},  {"Cena za MJ", 100, true},
-                   {"DPH %", 60, true},   {"DPH", 90, true}, {"Celkem", 100, true}};
-    int c = 0;
-    for (const auto& column : columns)
-        m_polozky->InsertColumn(c++, u8(column.title), column.right ? wxLIST_FORMAT_RIGHT : wxLIST_FORMAT_LEFT,
-                                column.width);
+    pridatSloupce(m_polozky, {{"Popis", 220, false},
+                              {"MJ", 50, false},
+                              {"Počet", 70, true},
+                              {"Cena za MJ", 100, true},
+                              {"DPH %", 60, true},
+                              {"DPH", 90, true},
+                              {"Celkem", 100, true}});
 
     auto* pridat = button(this, "Přidat položku", "pridatPolozku");
     auto* upravit = button(this, "Upravit položku", "upravitPolozku");

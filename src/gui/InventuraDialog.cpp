@@ -10,6 +10,7 @@
 #include <map>
 
 #include "controls/lxamountctrl.h"
+#include "formlayout.h"
 #include "controls/lxdatectrl.h"
 #include "dbmodel.h"
 #include "lxformat.h"
@@ -55,38 +56,26 @@ InventuraDialog::InventuraDialog(wxWindow* parent, int id)
 }
 
 void InventuraDialog::build() {
-    auto* grid = new wxFlexGridSizer(4, wxSize(8, 6));
-    grid->AddGrowableCol(1);
-    grid->AddGrowableCol(3);
-    auto field = [&](const char* label, wxWindow* w) {
-        grid->Add(new wxStaticText(this, wxID_ANY, u8(label)), wxSizerFlags().CentreVertical());
-        grid->Add(w, wxSizerFlags().Expand());
-    };
+    MrizkaPoli grid(this);
     m_cislo = new wxStaticText(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0, "cislo");
-    field("Číslo:", m_cislo);
+    grid.pole("Číslo:", m_cislo);
     m_datum = new lxDateCtrl(this, "datum");
-    field("Datum:", m_datum);
+    grid.pole("Datum:", m_datum);
     m_sklad = new SkladChoice(this);
-    field("Sklad:", m_sklad);
-    m_popis = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(200, -1), 0, wxDefaultValidator,
-                             "popis");
-    field("Popis:", m_popis);
-    m_provedl = new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(200, -1), 0, wxDefaultValidator,
-                               "provedl");
-    field("Provedl:", m_provedl);
+    grid.pole("Sklad:", m_sklad);
+    m_popis = grid.text("popis", 200);
+    grid.pole("Popis:", m_popis);
+    m_provedl = grid.text("provedl", 200);
+    grid.pole("Provedl:", m_provedl);
 
     m_radky = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(600, 220), wxLC_REPORT | wxLC_SINGLE_SEL,
                              wxDefaultValidator, "radky");
-    const struct {
-        const char* title;
-        int width;
-        bool right;
-    } columns[] = {{"Číslo", 90, false},     {"Název", 200, false},    {"MJ", 50, false},
-                   {"Evidováno", 85, true}, {"Zjištěno", 85, true}, {"Rozdíl", 85, true}};
-    int c = 0;
-    for (const auto& column : columns)
-        m_radky->InsertColumn(c++, u8(column.title), column.right ? wxLIST_FORMAT_RIGHT : wxLIST_FORMAT_LEFT,
-                              column.width);
+    pridatSloupce(m_radky, {{"Číslo", 90, false},
+                            {"Název", 200, false},
+                            {"MJ", 50, false},
+                            {"Evidováno", 85, true},
+                            {"Zjištěno", 85, true},
+                            {"Rozdíl", 85, true}});
 
     auto* radek = new wxBoxSizer(wxHORIZONTAL);
     radek->Add(new wxStaticText(this, wxID_ANY, u8("Zjištěno:")), wxSizerFlags().CentreVertical().Border(wxRIGHT, 6));
@@ -97,7 +86,7 @@ void InventuraDialog::build() {
     radek->Add(nastavitButton, wxSizerFlags().CentreVertical().Border(wxLEFT, 6));
 
     auto* top = new wxBoxSizer(wxVERTICAL);
-    top->Add(grid, wxSizerFlags().Expand().Border(wxALL, 10));
+    top->Add(grid.sizer(), wxSizerFlags().Expand().Border(wxALL, 10));
     top->Add(m_radky, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT, 10));
     top->Add(radek, wxSizerFlags().Border(wxALL, 10));
     addOkZrusit(this, top, [this] { return save(); });

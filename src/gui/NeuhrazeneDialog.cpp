@@ -7,6 +7,7 @@
 #include <wx/sizer.h>
 
 #include "UhradaDialog.h"
+#include "formlayout.h"
 #include "UhradyDialog.h"
 #include "clock.h"
 #include "dbmodel.h"
@@ -25,15 +26,14 @@ DbModel* openModel() {
 wxListCtrl* newList(wxWindow* parent, const char* name) {
     auto* list = new wxListCtrl(parent, wxID_ANY, wxDefaultPosition, wxSize(820, 320), wxLC_REPORT | wxLC_SINGLE_SEL,
                                 wxDefaultValidator, name);
-    const struct {
-        const char* caption;
-        int width;
-        bool right;
-    } columns[] = {{"Druh", 110, false},     {"Číslo", 90, false},     {"Protistrana", 180, false},
-                   {"Splatnost", 85, false}, {"Celkem", 100, true},    {"Zbývá uhradit", 100, true},
-                   {"Měna", 50, false},      {"Stav", 100, false}};
-    for (const auto& c : columns)
-        list->AppendColumn(u8(c.caption), c.right ? wxLIST_FORMAT_RIGHT : wxLIST_FORMAT_LEFT, c.width);
+    pridatSloupce(list, {{"Druh", 110, false},
+                         {"Číslo", 90, false},
+                         {"Protistrana", 180, false},
+                         {"Splatnost", 85, false},
+                         {"Celkem", 100, true},
+                         {"Zbývá uhradit", 100, true},
+                         {"Měna", 50, false},
+                         {"Stav", 100, false}});
     return list;
 }
 

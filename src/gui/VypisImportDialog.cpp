@@ -14,6 +14,7 @@
 #include <algorithm>
 
 #include "CsvMapovaniDialog.h"
+#include "formlayout.h"
 #include "book/lxbookpage.h"
 #include "dbmodel.h"
 #include "lxformat.h"
@@ -72,15 +73,13 @@ VypisImportDialog::VypisImportDialog(wxWindow* parent, int bankaid)
     m_list = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(1160, 320), wxLC_REPORT | wxLC_SINGLE_SEL,
                             wxDefaultValidator, "pohyby");
     m_list->EnableCheckBoxes();
-    const struct {
-        const char* caption;
-        int width;
-        bool right;
-    } columns[] = {{"Datum", 115, false},     {"Částka", 95, true},   {"VS", 90, false},
-                   {"Protiúčet", 135, false}, {"Protistrana / zpráva", 150, false},
-                   {"Doklad", 100, false},    {"Návrh", 450, false}};
-    for (const auto& c : columns)
-        m_list->AppendColumn(u8(c.caption), c.right ? wxLIST_FORMAT_RIGHT : wxLIST_FORMAT_LEFT, c.width);
+    pridatSloupce(m_list, {{"Datum", 115, false},
+                           {"Částka", 95, true},
+                           {"VS", 90, false},
+                           {"Protiúčet", 135, false},
+                           {"Protistrana / zpráva", 150, false},
+                           {"Doklad", 100, false},
+                           {"Návrh", 450, false}});
     m_stav = new wxStaticText(this, wxID_ANY, u8("Vyberte bankovní účet a soubor výpisu (ABO/GPC, camt.053 nebo CSV)."),
                               wxDefaultPosition, wxDefaultSize, 0, "stav");
 

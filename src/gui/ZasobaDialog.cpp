@@ -12,6 +12,7 @@
 #include <tuple>
 
 #include "PohybDialog.h"
+#include "formlayout.h"
 #include "controls/lxamountctrl.h"
 #include "dbmodel.h"
 #include "fakturace/polozkaform.h"
@@ -70,54 +71,41 @@ ZasobaDialog::ZasobaDialog(wxWindow* parent, int id, int vzor)
 }
 
 void ZasobaDialog::build() {
-    auto* grid = new wxFlexGridSizer(4, wxSize(8, 6));
-    grid->AddGrowableCol(1);
-    grid->AddGrowableCol(3);
-    auto field = [&](const char* label, wxWindow* w) {
-        grid->Add(new wxStaticText(this, wxID_ANY, u8(label)), wxSizerFlags().CentreVertical());
-        grid->Add(w, wxSizerFlags().Expand());
-    };
-    auto text = [&](const char* name, int width) {
-        return new wxTextCtrl(this, wxID_ANY, wxString(), wxDefaultPosition, wxSize(width, -1), 0, wxDefaultValidator,
-                              name);
-    };
+    MrizkaPoli grid(this);
     m_cislo = new wxStaticText(this, wxID_ANY, wxString(), wxDefaultPosition, wxDefaultSize, 0, "cislo");
-    field("Číslo:", m_cislo);
-    m_nazev = text("nazev", 220);
-    field("Název:", m_nazev);
-    m_popis = text("popis", 220);
-    field("Popis:", m_popis);
-    m_mj = text("mj", 80);
-    field("MJ:", m_mj);
+    grid.pole("Číslo:", m_cislo);
+    m_nazev = grid.text("nazev", 220);
+    grid.pole("Název:", m_nazev);
+    m_popis = grid.text("popis", 220);
+    grid.pole("Popis:", m_popis);
+    m_mj = grid.text("mj", 80);
+    grid.pole("MJ:", m_mj);
     m_sklad = new SkladChoice(this);
-    field("Sklad:", m_sklad);
+    grid.pole("Sklad:", m_sklad);
     m_ocenovani = ocenovaniChoice(this);
-    field("Oceňování:", m_ocenovani);
+    grid.pole("Oceňování:", m_ocenovani);
     m_cenamj = new lxAmountCtrl(this, lxAmountCtrl::CASTKA, "cenamj", 140);
-    field("Cena za MJ:", m_cenamj);
+    grid.pole("Cena za MJ:", m_cenamj);
     wxArrayString sazby;
     for (int s : m_sazby) sazby.Add(wxString::Format("%d %%", s));
     m_sazba = new wxChoice(this, wxID_ANY, wxDefaultPosition, wxDefaultSize, sazby, 0, wxDefaultValidator, "sazba");
-    field("Sazba DPH:", m_sazba);
-    grid->AddSpacer(0);
+    grid.pole("Sazba DPH:", m_sazba);
+    grid.sizer()->AddSpacer(0);
     m_bezdph = new wxCheckBox(this, wxID_ANY, u8("bez DPH"), wxDefaultPosition, wxDefaultSize, 0, wxDefaultValidator,
                               "bezdph");
-    grid->Add(m_bezdph, wxSizerFlags().CentreVertical());
+    grid.sizer()->Add(m_bezdph, wxSizerFlags().CentreVertical());
     m_minimum = new lxAmountCtrl(this, lxAmountCtrl::MNOZSTVI, "minimum", 140);
-    field("Minimum:", m_minimum);
+    grid.pole("Minimum:", m_minimum);
 
     m_pohyby = new wxListCtrl(this, wxID_ANY, wxDefaultPosition, wxSize(680, 180), wxLC_REPORT | wxLC_SINGLE_SEL,
                               wxDefaultValidator, "pohyby");
-    const struct {
-        const char* title;
-        int width;
-        bool right;
-    } columns[] = {{"Datum", 90, false}, {"Číslo", 90, false}, {"Pohyb", 120, false}, {"Počet", 80, true},
-                   {"Cena za MJ", 90, true}, {"Stav", 80, true}, {"Hodnota", 100, true}};
-    int c = 0;
-    for (const auto& column : columns)
-        m_pohyby->InsertColumn(c++, u8(column.title), column.right ? wxLIST_FORMAT_RIGHT : wxLIST_FORMAT_LEFT,
-                               column.width);
+    pridatSloupce(m_pohyby, {{"Datum", 90, false},
+                             {"Číslo", 90, false},
+                             {"Pohyb", 120, false},
+                             {"Počet", 80, true},
+                             {"Cena za MJ", 90, true},
+                             {"Stav", 80, true},
+                             {"Hodnota", 100, true}});
 
     auto* tlacitka = new wxBoxSizer(wxHORIZONTAL);
     const auto button = [&](const char* label, const char* name, void (ZasobaDialog::*handler)()) {
@@ -132,7 +120,7 @@ void ZasobaDialog::build() {
     m_pohyby->Bind(wxEVT_LIST_ITEM_ACTIVATED, [this](wxListEvent&) { upravitPohyb(); });
 
     auto* top = new wxBoxSizer(wxVERTICAL);
-    top->Add(grid, wxSizerFlags().Expand().Border(wxALL, 10));
+    top->Add(grid.sizer(), wxSizerFlags().Expand().Border(wxALL, 10));
     top->Add(new wxStaticText(this, wxID_ANY, u8("Pohyby zásoby:")), wxSizerFlags().Border(wxLEFT | wxRIGHT, 10));
     top->Add(m_pohyby, wxSizerFlags(1).Expand().Border(wxLEFT | wxRIGHT | wxTOP, 10));
     top->Add(tlacitka, wxSizerFlags().Border(wxALL, 10));
