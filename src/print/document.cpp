@@ -210,3 +210,38 @@ bool Document::readFromXml(const wxString& path, wxString* error) {
     pages = lastElementPage();
     return true;
 }
+
+namespace {
+
+// The position of the kinds placed at a point with a width; null for lines and rectangles.
+wxPoint* placedPos(Element& e) {
+    if (auto* t = dynamic_cast<TextElement*>(&e)) return &t->pos;
+    if (auto* p = dynamic_cast<TextParagraphElement*>(&e)) return &p->pos;
+    if (auto* r = dynamic_cast<TableRowElement*>(&e)) return &r->pos;
+    if (auto* i = dynamic_cast<ImageElement*>(&e)) return &i->pos;
+    return nullptr;
+}
+
+}  // namespace
+
+wxPoint originOf(const Element& element) {
+    auto& e = const_cast<Element&>(element);
+    if (const wxPoint* pos = placedPos(e)) return *pos;
+    if (const auto* line = dynamic_cast<const LineElement*>(&element))
+        return wxPoint(std::min(line->start.x, line->end.x), std::min(line->start.y, line->end.y));
+    if (const auto* rect = dynamic_cast<const RectangleElement*>(&element)) return rect->start;
+    return wxPoint();
+}
+
+void moveElement(Element& element, int dx, int dy) {
+    const wxPoint origin = originOf(element);
+    const wxPoint by(std::max(dx, -origin.x), std::max(dy, -origin.y));
+    if (wxPoint* pos = placedPos(element)) {
+        *pos += by;
+    } else if (auto* line = dynamic_cast<LineElement*>(&element)) {
+        line->start += by;
+        line->end += by;
+    } else if (auto* rect = dynamic_cast<RectangleElement*>(&element)) {
+        rect->start += by;
+    }
+}

@@ -60,5 +60,12 @@ class Document {
     lxElementsArray m_elements;
 };
 
+// The element's anchor point: the position of the placed kinds, the top left end of a line,
+// the corner of a rectangle.
+wxPoint originOf(const Element& element);
+// Moves the element by whole millimetres; a line moves both ends. Nothing goes left of or
+// above the margin corner: the move stops there.
+void moveElement(Element& element, int dx, int dy);
+
 // The element kind stored as `type` in a template, or null for an unknown type.
 std::unique_ptr<Element> createElement(int type);

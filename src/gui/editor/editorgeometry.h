@@ -11,7 +11,7 @@
 #include <array>
 #include <vector>
 
-#include "element.h"
+#include "document.h"
 
 namespace editorgeo {
 
@@ -90,12 +90,6 @@ struct Grip {
 std::vector<Grip> gripsOf(const Shape& shape);
 Handle handleAt(const Shape& shape, const wxRealPoint& mm, double tolerance = HIT_TOLERANCE_MM);
 
-// The element's anchor point: the position of the placed kinds, the start of a line or a
-// rectangle.
-wxPoint originOf(const Element& element);
-// Moves the element by whole millimetres; a line moves both ends. Nothing goes left of or
-// above the margin corner: the move stops there.
-void moveElement(Element& element, int dx, int dy);
 // Drags a grip to `to` (mm): HANDLE_WIDTH sets the width so that the right edge lands there
 // (a table row takes the change in its last cell), HANDLE_SIZE sets a rectangle's size,
 // HANDLE_START/HANDLE_END move that end of a line. Widths and sides keep MIN_SIZE_MM.

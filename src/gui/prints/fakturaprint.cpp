@@ -38,18 +38,6 @@ bool maSazby(const TableRowElement& row) {
     return false;
 }
 
-// Moves an element down (or up for a negative step) by whole millimetres.
-void posun(Element& e, int dy) {
-    if (auto* t = dynamic_cast<TextElement*>(&e)) t->pos.y += dy;
-    else if (auto* p = dynamic_cast<TextParagraphElement*>(&e)) p->pos.y += dy;
-    else if (auto* r = dynamic_cast<TableRowElement*>(&e)) r->pos.y += dy;
-    else if (auto* i = dynamic_cast<ImageElement*>(&e)) i->pos.y += dy;
-    else if (auto* l = dynamic_cast<LineElement*>(&e)) {
-        l->start.y += dy;
-        l->end.y += dy;
-    } else if (auto* o = dynamic_cast<RectangleElement*>(&e)) o->start.y += dy;
-}
-
 // The page height left between the top and bottom margins of an A4 sheet, mm.
 int vyskaStrany(const Document& doc) {
     return 297 - doc.layout.marginTop - doc.layout.marginBottom - (doc.layout.headerLine ? 6 : 0) - 8;
@@ -299,7 +287,7 @@ void opakujRadek(Document& doc, size_t index, size_t count, Fill fill) {
     }
     for (Element* e : dalsi) {
         e->page += posunStrany;
-        posun(*e, zacatek - (top + h));
+        moveElement(*e, 0, zacatek - (top + h));
     }
     doc.deleteElement(index);
     for (const TableRowElement& r : kopie) doc.addElement(r);
@@ -310,7 +298,7 @@ void opakujRadek(Document& doc, size_t index, size_t count, Fill fill) {
 
 void moveElements(std::vector<Element*>& elements, int from, int by) {
     for (Element* e : elements)
-        if (e->posY() >= from) posun(*e, by);
+        if (e->posY() >= from) moveElement(*e, 0, by);
 }
 
 void vyplnSablonu(Document& doc, const FakturaTisk& d) {
